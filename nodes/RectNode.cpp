@@ -1,0 +1,29 @@
+#include <RectNode>
+
+#include "nodes/RectNodeImpl.h"
+
+namespace VOR2 {
+
+RectNode::RectNode() : Node(new RectNodeImpl) {}
+
+RectNode::RectNode(GLOX::GLRect<double> const &rect) : RectNode() { setRect(rect); }
+
+RectNode::RectNode(NodeImpl *impl)
+    : Node(impl && impl->isa(RectNodeImpl::TYPE_NAME) ? impl : nullptr)
+{
+}
+
+char const *RectNode::staticGetFullyQualifiedTcosTypeName() { return RectNodeImpl::TYPE_NAME; }
+
+GLOX::GLRect<double> RectNode::getRect() const { return GLOX::toDRect(getValidRectNodeImpl()->rect()); }
+
+void RectNode::setRect(GLOX::GLRect<double> const &rect) const
+{
+    getValidRectNodeImpl()->setRect(GLOX::toQRectF(rect));
+}
+
+RectNodeImpl *RectNode::getRectNodeImpl() const { return static_cast<RectNodeImpl *>(getImpl()); }
+
+RectNodeImpl *RectNode::getValidRectNodeImpl() const { return static_cast<RectNodeImpl *>(getValidImpl()); }
+
+} // namespace VOR2

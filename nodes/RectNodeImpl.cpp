@@ -1,0 +1,40 @@
+#include "nodes/RectNodeImpl.h"
+
+#include "nodes/StylePainter.h"
+
+namespace VOR2 {
+
+char const *const RectNodeImpl::TYPE_NAME = "VOR2.RectNode";
+
+bool RectNodeImpl::isa(char const *typeName) const
+{
+    return typeNameMatches(typeName, TYPE_NAME) || NodeImpl::isa(typeName);
+}
+
+void RectNodeImpl::setRect(QRectF const &rect)
+{
+    if (rect.x() == m_rect.x() && rect.y() == m_rect.y() && rect.width() == m_rect.width() &&
+        rect.height() == m_rect.height())
+        return;
+    m_rect = rect;
+    notifyGeometryChanged(false);
+}
+
+Bounds RectNodeImpl::computeBounds() { return Bounds(m_rect); }
+
+Bounds RectNodeImpl::computeStrokedOutline(double scale)
+{
+    Stroke const &stroke = getDrawStyle().stroke();
+    if (stroke.isNoStroke()) return Bounds(m_rect);
+    double half = 0.5 * stroke.width(scale);
+    return Bounds(m_rect.adjusted(-half, -half, half, half));
+}
+
+void RectNodeImpl::paintContents(QPainter *painter, QStyleOptionGraphicsItem const *, QWidget *)
+{
+    double scale = QStyleOptionGraphicsItem::levelOfDetailFromTransform(painter->worldTransform());
+    applyDrawStyle(painter, getDrawStyle(), scale);
+    painter->drawRects(&m_rect, 1);
+}
+
+} // namespace VOR2

@@ -1,0 +1,33 @@
+#pragma once
+// How a DrawStyle reaches a QPainter: the pen of a Stroke at a view scale,
+// the brush of a Fill, and the antialiasing rule for thin lines. Pure
+// functions of their arguments; pens and brushes are rebuilt at every
+// paint and never cached.
+
+#include <DrawStyle>
+#include <Fill>
+#include <Stroke>
+
+#include <QBrush>
+#include <QPen>
+
+class QPainter;
+
+namespace VOR2 {
+
+// The pen of `stroke` at view `scale`: its colour, the width of
+// Stroke::width(scale), its cap, join and line style.
+QPen penForStroke(Stroke const &stroke, double scale);
+
+// The brush of `fill`: none, a solid colour, or its gradient.
+QBrush brushForFill(Fill const &fill);
+
+// True when `pen` draws a line thinner than one device pixel at `scale`.
+// A line of exactly one pixel is not thin; nor is a cosmetic pen or none.
+bool isThinLine(QPen const &pen, double scale);
+
+// Gives the painter the style's pen and brush at `scale`, and antialiasing
+// exactly when the style asks for it or the line is thin.
+void applyDrawStyle(QPainter *painter, DrawStyle const &style, double scale);
+
+} // namespace VOR2

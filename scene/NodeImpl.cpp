@@ -1,0 +1,330 @@
+#include "scene/NodeImpl.h"
+
+#include <Behavior>
+#include <Diagnostics>
+#include <Error>
+#include <GlobalViewerInfo>
+#include <WeakRef>
+
+#include "scene/GraphicsItemCasterTable.h"
+#include "scene/NodeCursorTable.h"
+#include "scene/NodeEmitterTable.h"
+#include "scene/NodeOwnershipGuard.h"
+#include "scene/NodeUpdateHandler.h"
+#include "scene/ScenePrivate.h"
+
+#include <QGraphicsScene>
+#include <cstring>
+
+namespace VOR2 {
+
+namespace {
+char const *const NODE_TYPE_NAME = "VOR2.Node";
+char const *const INSTANCE_COUNT = "Node:Node instance count";
+
+// Forces Qt to recompute the scene transforms of a moved subtree:
+// post-order, a translation there and back on every item.
+void nudgeSubtree(QGraphicsItem *item)
+{
+    for (QGraphicsItem *child : item->childItems()) nudgeSubtree(child);
+    item->setTransform(QTransform::fromTranslate(10, 10), true);
+    item->setTransform(QTransform::fromTranslate(-10, -10), true);
+}
+} // namespace
+
+NodeImpl::NodeImpl() { Diagnostics::add(INSTANCE_COUNT, 1); }
+
+NodeImpl::~NodeImpl() { Diagnostics::add(INSTANCE_COUNT, -1); }
+
+// ---------------------------------------------------------------- identity
+
+char const *NodeImpl::getFullyQualifiedTcosTypeName() const { return NODE_TYPE_NAME; }
+
+bool NodeImpl::typeNameMatches(char const *asked, char const *own)
+{
+    return asked == own || (asked && std::strcmp(asked, own) == 0);
+}
+
+bool NodeImpl::isa(char const *typeName) const { return typeNameMatches(typeName, NODE_TYPE_NAME); }
+
+ScenePrivate *NodeImpl::getScenePrivate() const
+{
+    return ScenePrivate::fromGraphicsScene(getGraphicsScene());
+}
+
+NodeImpl *NodeImpl::fromItem(QGraphicsItem const *item)
+{
+    return GraphicsItemCasterTable::instance().cast(item);
+}
+
+// -------------------------------------------------------------------- tree
+
+NodeImpl *NodeImpl::getParentImpl() const { return fromItem(getGraphicsItem()->parentItem()); }
+
+GLOX::GList<NodeImpl *> NodeImpl::getChildImpls() const
+{
+    GLOX::GList<NodeImpl *> children;
+    for (QGraphicsItem *child : getGraphicsItem()->childItems()) children.append(fromItem(child));
+    return children;
+}
+
+bool NodeImpl::isAttached() const
+{
+    return getGraphicsItem()->scene() != nullptr || getGraphicsItem()->parentItem() != nullptr;
+}
+
+void NodeImpl::setParent(NodeImpl *newParent)
+{
+    if (newParent == this) throwError(VOR2_CannotParentToSelf);
+    QGraphicsItem *newParentItem = newParent ? newParent->getGraphicsItem() : nullptr;
+    if (newParentItem && getGraphicsItem()->isAncestorOf(newParentItem)) throwError(VOR2_CyclicalHierarchy);
+
+    NodeOwnershipGuard guard(this);
+    if (getGraphicsItem()->parentItem() == newParentItem) return;
+    if (newParent) layoutContents();
+
+    // Scenes follow the parent; dropping the parent alone keeps the scene.
+    ScenePrivate *oldScene = getScenePrivate();
+    ScenePrivate *newScene = newParent ? newParent->getScenePrivate() : nullptr;
+    if (oldScene != newScene) {
+        if (oldScene && newParent) oldScene->removeNodeImpl(this);
+        if (newScene) newScene->addNodeImpl(this);
+    }
+
+    getGraphicsItem()->setParentItem(newParentItem);
+    notifyGeometryChanged(true);
+    if (ZOrderingContainer *container = getZContainer()) container->stepToTop(this);
+    nudgeSubtree(getGraphicsItem());
+}
+
+ZOrderingContainer *NodeImpl::getZContainer() const
+{
+    if (NodeImpl *parent = getParentImpl()) return parent;
+    return getScenePrivate();
+}
+
+void NodeImpl::addTag(GLOX::StringID const &tag)
+{
+    if (!m_tags.contains(tag)) m_tags.append(tag);
+}
+
+// ------------------------------------------------------- style and caching
+
+void NodeImpl::setDrawStyle(DrawStyle const &style)
+{
+    Stroke const &was = m_drawStyle.stroke();
+    Stroke const &now = style.stroke();
+    bool outlineChanged = (was.style() == NoStroke) != (now.style() == NoStroke) ||
+                          was.logicalWidth() != now.logicalWidth() ||
+                          was.scaleFunction() != now.scaleFunction() ||
+                          m_drawStyle.isAntiAliased() != style.isAntiAliased();
+    if (outlineChanged)
+        notifyGeometryChanged(false);
+    else if (!(m_drawStyle == style))
+        notifyRepaint();
+    m_drawStyle = style;
+}
+
+void NodeImpl::setCacheType(CacheType type)
+{
+    if (type == m_cacheType) return;
+    NodeUpdateHandler *handler = nullptr;
+    if (type == CacheType::ChildrenTree) handler = getOwnUpdateHandler();
+    for (NodeImpl *child : getChildImpls()) child->applyUpdateHandlerToSubtree(handler);
+    m_cacheType = type;
+}
+
+void NodeImpl::setUpdateHandler(NodeUpdateHandler *handler)
+{
+    m_updateHandler = handler;
+    ScenePrivate *scene = getScenePrivate();
+    m_updateHandlerOverridden = handler != nullptr && handler != static_cast<NodeUpdateHandler *>(scene);
+}
+
+void NodeImpl::applyUpdateHandlerToSubtree(NodeUpdateHandler *handler)
+{
+    setUpdateHandler(handler);
+    for (NodeImpl *child : getChildImpls()) child->applyUpdateHandlerToSubtree(handler);
+}
+
+// -------------------------------------------------------- change reporting
+
+NodeUpdateHandler *NodeImpl::effectiveUpdateHandler() const
+{
+    if (m_updateHandler) return m_updateHandler;
+    return getScenePrivate();
+}
+
+void NodeImpl::invalidateCaches()
+{
+    m_offscreenDirty = true;
+    m_viewCache.clear();
+    m_boundsCache = Bounds();
+}
+
+void NodeImpl::notifyRepaint()
+{
+    invalidateCaches();
+    if (NodeUpdateHandler *handler = effectiveUpdateHandler()) handler->nodeRepaintRequired(this);
+}
+
+void NodeImpl::notifyGeometryChanged(bool deep)
+{
+    prepareItemGeometryChange();
+    invalidateCaches();
+    if (NodeUpdateHandler *handler = effectiveUpdateHandler()) handler->nodeGeometryChanged(this);
+    layoutContents();
+    if (deep)
+        for (NodeImpl *child : getChildImpls()) child->notifyGeometryChanged(true);
+}
+
+void NodeImpl::notifyMoved()
+{
+    if (NodeUpdateHandler *handler = effectiveUpdateHandler()) handler->nodeMoved(this);
+}
+
+// ------------------------------------------------- behaviour and hit test
+
+void NodeImpl::setBehavior(Behavior *behavior)
+{
+    if (behavior == m_behavior.get()) return;
+    if (behavior && behavior->m_node && behavior->m_node != this) behavior->m_node->setBehavior(nullptr);
+    if (m_behavior) m_behavior->m_node = nullptr;
+    m_behavior = behavior;
+    if (behavior) behavior->m_node = this;
+}
+
+bool NodeImpl::contains(GLOX::GLPoint<double> const &p)
+{
+    double scale = GlobalViewerInfo::instance()->getViewerScale();
+    if (m_customHitTest) return m_customHitTest->contains(Node(this), p, scale);
+    return getCachedHitBounds(scale).contains(p);
+}
+
+bool NodeImpl::intersects(GLOX::GLRect<double> const &r)
+{
+    double scale = GlobalViewerInfo::instance()->getViewerScale();
+    if (m_customHitTest) return m_customHitTest->intersects(Node(this), r, scale);
+    return getCachedHitBounds(scale).boundingRect().intersects(r);
+}
+
+bool NodeImpl::intersects(Bounds const &b)
+{
+    double scale = GlobalViewerInfo::instance()->getViewerScale();
+    if (m_customHitTest) return m_customHitTest->intersects(Node(this), b, scale);
+    return getCachedHitBounds(scale).intersectsWith(b);
+}
+
+// ---------------------------------------------------------------- geometry
+
+Bounds const &NodeImpl::getBounds()
+{
+    if (!m_boundsCache.boundingRect().isValid()) m_boundsCache = computeBounds();
+    return m_boundsCache;
+}
+
+NodeViewCache &NodeImpl::currentViewCache()
+{
+    void const *key = GlobalViewerInfo::instance()->getKey();
+    if (NodeViewCache *entry = m_viewCache.object(key)) return *entry;
+    auto *entry = new NodeViewCache;
+    m_viewCache.insert(key, entry, 1);
+    return *entry;
+}
+
+Bounds NodeImpl::getCachedStrokedOutline(double scale)
+{
+    NodeViewCache &entry = currentViewCache();
+    if (!entry.strokedOutline.boundingRect().isValid()) entry.strokedOutline = computeStrokedOutline(scale);
+    return entry.strokedOutline;
+}
+
+Bounds NodeImpl::getCachedMaximumBounds(double scale)
+{
+    NodeViewCache &entry = currentViewCache();
+    if (!entry.maximumBounds.boundingRect().isValid()) entry.maximumBounds = computeMaximumBounds(scale);
+    return entry.maximumBounds;
+}
+
+Bounds NodeImpl::getCachedHitBounds(double scale)
+{
+    NodeViewCache &entry = currentViewCache();
+    if (!entry.hitBounds.boundingRect().isValid()) {
+        if (m_customHitTest)
+            entry.hitBounds =
+                m_customHitTest->getHitBounds(Node(this), GlobalViewerInfo::instance()->getViewerScale());
+        else
+            entry.hitBounds = computeHitBounds(scale);
+    }
+    return entry.hitBounds;
+}
+
+Bounds NodeImpl::computeStrokedOutline(double) { return getBounds(); }
+
+Bounds NodeImpl::computeMaximumBounds(double scale)
+{
+    // Effects widen this rectangle once nodes carry them.
+    return Bounds(getCachedStrokedOutline(scale).boundingRect());
+}
+
+Bounds NodeImpl::computeHitBounds(double scale) { return getCachedStrokedOutline(scale); }
+
+QRectF NodeImpl::itemBoundingRect()
+{
+    double scale = GlobalViewerInfo::instance()->getViewerScale();
+    GLOX::GLRect<double> r =
+        getCachedMaximumBounds(scale).boundingRect().united(getCachedHitBounds(scale).boundingRect());
+    if (!r.isValid()) return QRectF(-1.0, -1.0, -1.0, -1.0);
+    return GLOX::toQRectF(r);
+}
+
+QPainterPath NodeImpl::itemShape()
+{
+    return getCachedStrokedOutline(GlobalViewerInfo::instance()->getViewerScale()).asQPainterPath();
+}
+
+bool NodeImpl::itemCollidesWithPath(QPainterPath const &path)
+{
+    if (path.isEmpty()) return false;
+    if (!intersects(GLOX::toDRect(path.controlPointRect()))) return false;
+    return intersects(Bounds(path));
+}
+
+void NodeImpl::paintContents(QPainter *, QStyleOptionGraphicsItem const *, QWidget *) {}
+
+// --------------------------------------------------------- Qt item changes
+
+void NodeImpl::itemChangeHook(QGraphicsItem::GraphicsItemChange change, QVariant const &)
+{
+    switch (change) {
+    case QGraphicsItem::ItemParentHasChanged: onParentHasChanged(); break;
+    case QGraphicsItem::ItemChildAddedChange: layoutContents(); break;
+    default: break;
+    }
+}
+
+void NodeImpl::onParentHasChanged()
+{
+    NodeImpl *parent = getParentImpl();
+    NodeUpdateHandler *handler = nullptr;
+    if (parent) {
+        NodeUpdateHandler *own = parent->getOwnUpdateHandler();
+        handler = (parent->m_cacheType == CacheType::ChildrenTree && own) ? own : parent->m_updateHandler;
+    }
+    if (handler != m_updateHandler) applyUpdateHandlerToSubtree(handler);
+}
+
+// --------------------------------------------------------------- lifecycle
+
+void NodeImpl::destroy()
+{
+    WeakRef::implDestroyed(this);
+    NodeEmitterTable::instance().removeAll(this);
+    for (NodeImpl *child : getChildImpls()) child->setParent(nullptr);
+    m_viewCache.clear();
+    clearBehavior();
+    NodeCursorTable::instance().remove(this);
+    delete this;
+}
+
+} // namespace VOR2

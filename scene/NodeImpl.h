@@ -1,0 +1,168 @@
+#pragma once
+// NodeImpl: the element behind a Node handle. The tree itself lives in the
+// Qt item that TypedNodeImpl<T> joins to it; NodeImpl keeps the tags, the
+// draw style, the behaviour, the caches of computed bounds, and the way the
+// node reports its changes. Everything here runs on the scene's thread.
+//
+// Change reporting: a setter compares, stores and calls one of
+//   notifyRepaint()                 the node looks different,
+//   notifyGeometryChanged(deep)     its outline changed (deep: children too),
+//   notifyMoved()                   its position changed,
+// which drop the caches they must and report to the update handler: the
+// one set on the node, else its scene's, else none.
+
+#include <Bounds>
+#include <CacheType>
+#include <DrawStyle>
+#include <Node>
+
+#include "GLOX/Containers.h"
+#include "GLOX/Holder.h"
+#include "GLOX/ReferencedTemplate.h"
+#include "GLOX/StringID.h"
+#include "scene/LayoutContainer.h"
+#include "scene/LayoutItem.h"
+#include "scene/NodeViewCache.h"
+#include "scene/ZOrderingContainer.h"
+
+#include <QCache>
+#include <QGraphicsItem>
+
+class QPainter;
+class QStyleOptionGraphicsItem;
+class QWidget;
+
+namespace VOR2 {
+
+class NodeUpdateHandler;
+class ScenePrivate;
+
+// The count of a node: plain, not atomic. destroy() runs when it falls to 0.
+class ReferencedNodeImpl : public GLOX::ReferencedTemplate<unsigned int> {
+};
+
+class NodeImpl : public ReferencedNodeImpl,
+                 public ZOrderingContainer,
+                 public LayoutContainer,
+                 public LayoutItem {
+public:
+    NodeImpl();
+    ~NodeImpl() override;
+    NodeImpl(NodeImpl const &) = delete;
+    NodeImpl &operator=(NodeImpl const &) = delete;
+
+    // --- Identity -------------------------------------------------------
+    // The handler this node offers to its subtree (composites), or null.
+    virtual NodeUpdateHandler *getOwnUpdateHandler() { return nullptr; }
+    virtual char const *getFullyQualifiedTcosTypeName() const;
+    // True for this node's own type name and each of its bases', compared
+    // by pointer and then as text.
+    virtual bool isa(char const *typeName) const;
+    static bool typeNameMatches(char const *asked, char const *own);
+
+    virtual QGraphicsItem const *getGraphicsItem() const = 0;
+    virtual QGraphicsItem *getGraphicsItem() = 0;
+    QGraphicsScene *getGraphicsScene() const { return getGraphicsItem()->scene(); }
+    ScenePrivate *getScenePrivate() const;
+    // The element behind a Qt item of a scene; null for null.
+    static NodeImpl *fromItem(QGraphicsItem const *item);
+
+    // --- Tree -----------------------------------------------------------
+    NodeImpl *getParentImpl() const;
+    GLOX::GList<NodeImpl *> getChildImpls() const;
+    bool isAttached() const;
+    // Reparents with ownership kept (see Node::setParent); null detaches
+    // from the parent but not from the scene.
+    void setParent(NodeImpl *newParent);
+    // Where this node is stacked: its parent, else its scene, else null.
+    ZOrderingContainer *getZContainer() const;
+    GLOX::GList<NodeImpl *> getStackedNodes() const override { return getChildImpls(); }
+
+    // --- Tags -----------------------------------------------------------
+    GLOX::GList<GLOX::StringID> const &getTags() const { return m_tags; }
+    bool hasTag(GLOX::StringID const &tag) const { return m_tags.contains(tag); }
+    void addTag(GLOX::StringID const &tag);
+    void removeTag(GLOX::StringID const &tag) { m_tags.removeAll(tag); }
+    void removeAllTags() { m_tags.clear(); }
+
+    // --- Style and caching ----------------------------------------------
+    DrawStyle const &getDrawStyle() const { return m_drawStyle; }
+    void setDrawStyle(DrawStyle const &style);
+    CacheType getCacheType() const { return m_cacheType; }
+    void setCacheType(CacheType type);
+    NodeUpdateHandler *getUpdateHandler() const { return m_updateHandler; }
+    bool isUpdateHandlerOverridden() const { return m_updateHandlerOverridden; }
+    void setUpdateHandler(NodeUpdateHandler *handler);
+    // Stores `handler` on this node and every descendant.
+    void applyUpdateHandlerToSubtree(NodeUpdateHandler *handler);
+    bool isOffscreenDirty() const { return m_offscreenDirty; }
+    void setOffscreenDirty(bool dirty) { m_offscreenDirty = dirty; }
+
+    // --- Change reporting -----------------------------------------------
+    void invalidateCaches();
+    void notifyRepaint();
+    void notifyGeometryChanged(bool deep);
+    void notifyMoved();
+
+    // --- Behaviour and hit test -----------------------------------------
+    Behavior *getBehavior() const { return m_behavior.get(); }
+    void setBehavior(Behavior *behavior);
+    void clearBehavior() { setBehavior(nullptr); }
+    void setCustomHitTestFunctor(Node::CustomHitTestFunctor *functor) { m_customHitTest = functor; }
+    Node::CustomHitTestFunctor *getCustomHitTestFunctor() const { return m_customHitTest.get(); }
+
+    // --- Geometry -------------------------------------------------------
+    // The bare geometry, cached until the next change report.
+    Bounds const &getBounds();
+    // Per-view caches, keyed by GlobalViewerInfo's current view.
+    // Returned by value: Bounds copies share their shape.
+    Bounds getCachedStrokedOutline(double scale);
+    Bounds getCachedMaximumBounds(double scale);
+    Bounds getCachedHitBounds(double scale);
+
+    virtual Bounds computeBounds() = 0;
+    virtual Bounds computeStrokedOutline(double scale);
+    // The rectangle that holds the stroked outline and every effect.
+    virtual Bounds computeMaximumBounds(double scale);
+    virtual Bounds computeHitBounds(double scale);
+    virtual bool contains(GLOX::GLPoint<double> const &p);
+    virtual bool intersects(GLOX::GLRect<double> const &r);
+    virtual bool intersects(Bounds const &b);
+
+    // --- Painting -------------------------------------------------------
+    virtual void paintContents(QPainter *painter, QStyleOptionGraphicsItem const *option, QWidget *widget);
+
+    // --- Qt item changes ------------------------------------------------
+    // Called from QGraphicsItem::itemChange before Qt's own handling; it
+    // cannot alter the change. The default handles the three changes a
+    // node reacts to and ignores the rest.
+    virtual void itemChangeHook(QGraphicsItem::GraphicsItemChange change, QVariant const &value);
+
+protected:
+    // Lets Qt know the bounding rectangle is about to change.
+    virtual void prepareItemGeometryChange() = 0;
+    // The Qt item's bounding rectangle: the union of maximum and hit bounds
+    // at the viewer scale, or four values of -1 when there are none.
+    QRectF itemBoundingRect();
+    QPainterPath itemShape();
+    bool itemCollidesWithPath(QPainterPath const &path);
+    void destroy() override;
+
+private:
+    void onParentHasChanged();
+    NodeViewCache &currentViewCache();
+    NodeUpdateHandler *effectiveUpdateHandler() const;
+
+    GLOX::GList<GLOX::StringID> m_tags;
+    Bounds m_boundsCache;
+    bool m_offscreenDirty = true;
+    DrawStyle m_drawStyle;
+    CacheType m_cacheType = CacheType::None;
+    GLOX::Holder<Behavior> m_behavior;
+    QCache<void const *, NodeViewCache> m_viewCache{5000};
+    bool m_updateHandlerOverridden = false;
+    NodeUpdateHandler *m_updateHandler = nullptr;
+    GLOX::Holder<Node::CustomHitTestFunctor> m_customHitTest;
+};
+
+} // namespace VOR2

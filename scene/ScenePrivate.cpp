@@ -1,0 +1,156 @@
+#include "scene/ScenePrivate.h"
+
+#include <Diagnostics>
+
+#include "scene/NodeEmitterTable.h"
+#include "scene/NodeImpl.h"
+#include "scene/NodeOwnershipGuard.h"
+
+#include <QMetaObject>
+
+namespace VOR2 {
+
+namespace {
+char const *const NODE_COUNT = "Scene:Node count";
+char const *const QUEUED_UPDATES = "Scene:Queued view updates";
+} // namespace
+
+ScenePrivate::ScenePrivate(Scene *scene) : m_scene(scene)
+{
+    setBackgroundBrush(QBrush(QColor(0, 0, 0, 0), Qt::SolidPattern));
+    // Node bounds follow each view's scale, so no spatial index can hold.
+    setItemIndexMethod(QGraphicsScene::NoIndex);
+}
+
+ScenePrivate::~ScenePrivate() = default;
+
+// ------------------------------------------------------------------- nodes
+
+bool ScenePrivate::containsNode(NodeImpl const *node) const { return node->getGraphicsScene() == this; }
+
+GLOX::GList<NodeImpl *> ScenePrivate::getTopLevelNodeImpls() const
+{
+    GLOX::GList<NodeImpl *> nodes;
+    for (QGraphicsItem *item : items())
+        if (!item->parentItem()) nodes.append(NodeImpl::fromItem(item));
+    return nodes;
+}
+
+void ScenePrivate::addNodeImpl(NodeImpl *node)
+{
+    if (containsNode(node)) return;
+    NodeOwnershipGuard guard(node);
+    if (ScenePrivate *other = node->getScenePrivate())
+        other->removeNodeImpl(node);
+    else if (!m_creationDrawStyles.isEmpty())
+        node->setDrawStyle(m_creationDrawStyles.last());
+    addItem(node->getGraphicsItem());
+    stepToTop(node);
+    nodeGeometryChanged(node);
+    Diagnostics::add(NODE_COUNT, 1);
+}
+
+Node ScenePrivate::removeNodeImpl(NodeImpl *node)
+{
+    NodeEmitterTable::instance().removeAll(node);
+    if (!containsNode(node)) return Node();
+    markRemovedSubtree(node);
+    invalidateSceneBounds();
+    NodeOwnershipGuard guard(node);
+    Node result(node);
+    removeItem(node->getGraphicsItem());
+    node->invalidateCaches();
+    Diagnostics::add(NODE_COUNT, -1);
+    return result;
+}
+
+void ScenePrivate::markRemovedSubtree(NodeImpl *node)
+{
+    scheduleViewUpdate();
+    // A behaviour leaves the tool stack with its node, once tools exist.
+    m_pendingChanges[node] = PendingChangeKind::Removed;
+    for (NodeImpl *child : node->getChildImpls()) markRemovedSubtree(child);
+}
+
+void ScenePrivate::destroyScene()
+{
+    for (NodeImpl *node : getTopLevelNodeImpls()) removeNodeImpl(node);
+}
+
+// ----------------------------------------------------------------- changes
+
+void ScenePrivate::scheduleViewUpdate()
+{
+    if (!m_pendingChanges.isEmpty()) return;
+    QMetaObject::invokeMethod(this, "_q_emitUpdated", Qt::QueuedConnection);
+    Diagnostics::add(QUEUED_UPDATES, 1);
+}
+
+ScenePrivate::PendingChanges ScenePrivate::takePendingChanges()
+{
+    PendingChanges taken;
+    taken.swap(m_pendingChanges);
+    return taken;
+}
+
+bool ScenePrivate::handledHere(NodeImpl const *node) const
+{
+    NodeUpdateHandler *handler = node->getUpdateHandler();
+    return handler == nullptr || handler == static_cast<NodeUpdateHandler const *>(this);
+}
+
+void ScenePrivate::nodeRepaintRequired(NodeImpl *node)
+{
+    scheduleViewUpdate();
+    auto it = m_pendingChanges.find(node);
+    if (it == m_pendingChanges.end())
+        m_pendingChanges.insert(node, PendingChangeKind::Repaint);
+    else if (*it == PendingChangeKind::Removed)
+        *it = PendingChangeKind::Geometry;
+    for (NodeImpl *child : node->getChildImpls())
+        if (handledHere(child)) nodeRepaintRequired(child);
+}
+
+void ScenePrivate::nodeGeometryChanged(NodeImpl *node)
+{
+    scheduleViewUpdate();
+    m_pendingChanges[node] = PendingChangeKind::Geometry;
+    for (NodeImpl *child : node->getChildImpls())
+        if (handledHere(child)) nodeGeometryChanged(child);
+    invalidateSceneBounds();
+}
+
+void ScenePrivate::nodeMoved(NodeImpl *node) { nodeGeometryChanged(node); }
+
+void ScenePrivate::invalidateSceneBounds()
+{
+    m_visibleItemsRect = GLOX::GLRect<double>();
+    m_nodesBounds = GLOX::GLRect<double>();
+}
+
+// --------------------------------------------- styles, background, cursor
+
+void ScenePrivate::setBackground(Background const &background)
+{
+    if (background == m_background) return;
+    m_background = background;
+    backgroundChanged.sendWith(GLUV::SendDirect, this);
+}
+
+void ScenePrivate::setToolOverrideCursor(GLOX::Cursor const &cursor)
+{
+    if (m_toolOverrideCursorSet && cursor == m_toolOverrideCursor) return;
+    m_toolOverrideCursorSet = true;
+    m_toolOverrideCursor = cursor;
+    toolOverrideCursorChanged.sendWith(GLUV::SendDirect);
+}
+
+void ScenePrivate::clearToolOverrideCursor()
+{
+    if (!m_toolOverrideCursorSet) return;
+    m_toolOverrideCursorSet = false;
+    m_toolOverrideCursor = GLOX::Cursor(0);
+    toolOverrideCursorChanged.sendWith(GLUV::SendDirect);
+}
+
+} // namespace VOR2

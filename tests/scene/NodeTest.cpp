@@ -1,0 +1,167 @@
+// A node's own state: type names, flags, cursors, behaviour, cache types
+// and the geometry it gives Qt.
+
+#include <Behavior>
+#include <ConstantLodScale>
+#include <GlobalViewerInfo>
+
+#include "nodes/RectNodeImpl.h"
+#include "scene/NodeUpdateHandler.h"
+#include "support/SceneFixture.h"
+
+using namespace VOR2;
+using namespace VOR2::test;
+
+using NodeState = SceneTest;
+
+TEST_F(NodeState, TypeNamesOfEmptyAndTypedHandles)
+{
+    Node empty;
+    EXPECT_TRUE(empty.isa("VOR2.Node"));
+    EXPECT_FALSE(empty.isa("VOR2.RectNode"));
+    EXPECT_FALSE(empty.isa(nullptr));
+    EXPECT_STREQ(empty.getFullyQualifiedTcosTypeName(), "VOR2.Node");
+
+    RectNode r = rect(0, 0);
+    Node n = r;
+    EXPECT_TRUE(n.isa("VOR2.RectNode"));
+    EXPECT_TRUE(n.isa(std::string("VOR2.Node").c_str()));
+    EXPECT_STREQ(n.getFullyQualifiedTcosTypeName(), "VOR2.RectNode");
+    EXPECT_EQ(RectNode(n.getImpl()), r);
+    EXPECT_FALSE(RectNode(static_cast<NodeImpl *>(nullptr)).isValid());
+}
+
+TEST_F(NodeState, EmptyBoundsGiveQtAnInvalidRectangle)
+{
+    RectNode n; // zero rectangle, hairline
+    DrawStyle noStroke;
+    noStroke.setStroke(Stroke::NoStroke());
+    n.setDrawStyle(noStroke);
+    QRectF r = n.getImpl()->getGraphicsItem()->boundingRect();
+    EXPECT_EQ(r, QRectF(-1.0, -1.0, -1.0, -1.0));
+}
+
+TEST_F(NodeState, OutlineFollowsTheViewerScale)
+{
+    RectNode n = rect(0, 0, 10, 10); // hairline: one view pixel
+    GlobalViewerInfo::instance()->setCurrentView(reinterpret_cast<void const *>(1), 4.0);
+    EXPECT_EQ(n.getImpl()->getGraphicsItem()->boundingRect(), QRectF(-0.125, -0.125, 10.25, 10.25));
+    GlobalViewerInfo::instance()->setCurrentView(reinterpret_cast<void const *>(2), 0.5);
+    EXPECT_EQ(n.getImpl()->getGraphicsItem()->boundingRect(), QRectF(-1, -1, 12, 12));
+    GlobalViewerInfo::instance()->clearCurrentView();
+
+    n.setStroke(Stroke(GLOX::Color(), 2.0, SolidLine, FlatCap, MiterJoin, ConstantLodScale::instance()));
+    GlobalViewerInfo::instance()->setCurrentView(reinterpret_cast<void const *>(3), 2.0);
+    EXPECT_EQ(n.getImpl()->getGraphicsItem()->boundingRect(), QRectF(-0.5, -0.5, 11, 11));
+    GlobalViewerInfo::instance()->clearCurrentView();
+    EXPECT_EQ(n.getBounds().boundingRect(), (GLOX::GLRect<double>(0, 0, 10, 10)));
+}
+
+namespace {
+struct RingHitTest : Node::CustomHitTestFunctor {
+    bool contains(Node, GLOX::GLPoint<double> const &p, double) override
+    {
+        double d2 = p.x * p.x + p.y * p.y;
+        return d2 >= 16 && d2 <= 25;
+    }
+    bool intersects(Node, GLOX::GLRect<double> const &, double) override { return false; }
+    bool intersects(Node, Bounds const &, double) override { return false; }
+};
+} // namespace
+
+TEST_F(NodeState, CustomHitTestReplacesTheOwn)
+{
+    auto scene = Scene::createScene();
+    RectNode n = rect(-5, -5, 10, 10);
+    scene->addNode(n);
+    EXPECT_EQ(scene->getNodeAt({0, 0}), n);
+    n.setCustomHitTestFunctor(new RingHitTest);
+    EXPECT_FALSE(n.contains({0, 0}));
+    EXPECT_TRUE(n.contains({4.5, 0}));
+    EXPECT_FALSE(scene->getNodeAt({0, 0}).isValid());
+    EXPECT_EQ(scene->getNodeAt({0, 4.5}), n);
+    n.setCustomHitTestFunctor(nullptr);
+    EXPECT_TRUE(n.contains({0, 0}));
+}
+
+TEST_F(NodeState, FlagsAndCursors)
+{
+    RectNode n = rect(0, 0);
+    EXPECT_FALSE(n.isMovable());
+    n.setMovable(true);
+    n.setSelectable(true);
+    n.setStacksBehindParent(true);
+    n.setIgnoresTransformations(true);
+    EXPECT_TRUE(n.isMovable() && n.isSelectable() && n.isStacksBehindParent() && n.doesIgnoreTransformations());
+    EXPECT_EQ(int(n.getImpl()->getGraphicsItem()->flags()), 1 | 2 | 32 | 256);
+
+    EXPECT_FALSE(n.hasCursor());
+    EXPECT_FALSE(n.getCursor().isValid());
+    n.setCursor(GLOX::Cursor(Qt::PointingHandCursor));
+    EXPECT_EQ(n.getCursor().shape(), int(Qt::PointingHandCursor));
+    n.setCursor(GLOX::Cursor());
+    EXPECT_FALSE(n.hasCursor()) << "an invalid cursor removes the entry";
+
+    n.setVisible(false);
+    EXPECT_FALSE(n.isVisible());
+    n.setOpacity(0.25);
+    EXPECT_EQ(n.getOpacity(), 0.25);
+}
+
+TEST_F(NodeState, ABehaviourBelongsToOneNodeAtATime)
+{
+    RectNode a = rect(0, 0), b = rect(0, 0);
+    GLOX::Holder<Behavior> behavior(new Behavior);
+    a.setBehavior(behavior.get());
+    EXPECT_EQ(behavior->getNode(), a);
+    b.setBehavior(behavior.get());
+    EXPECT_EQ(a.getBehavior(), nullptr);
+    EXPECT_EQ(behavior->getNode(), b);
+    EXPECT_EQ(behavior->refCount(), 2u);
+    b.clearBehavior();
+    EXPECT_FALSE(behavior->getNode().isValid());
+    EXPECT_EQ(behavior->refCount(), 1u);
+}
+
+namespace {
+// A node that takes its subtree's reports when it caches the whole tree.
+class CachingHandlerNode : public RectNodeImpl, public NodeUpdateHandler {
+public:
+    NodeUpdateHandler *getOwnUpdateHandler() override { return this; }
+    void nodeRepaintRequired(NodeImpl *n) override { reports.append(n); }
+    void nodeGeometryChanged(NodeImpl *n) override { reports.append(n); }
+    void nodeMoved(NodeImpl *n) override { reports.append(n); }
+    GLOX::GList<NodeImpl *> reports;
+};
+} // namespace
+
+TEST_F(NodeState, ChildrenTreeCachingRoutesTheSubtreesReports)
+{
+    auto scene = Scene::createScene();
+    auto *impl = new CachingHandlerNode;
+    Node composite(impl);
+    scene->addNode(composite);
+    RectNode child = rect(0, 0), grandchild = rect(0, 0);
+    child.setParent(composite);
+    grandchild.setParent(child);
+
+    composite.setCacheType(CacheType::ChildrenTree);
+    scene->getPrivate()->takePendingChanges();
+    grandchild.setPosition({1, 1});
+    EXPECT_EQ(impl->reports, GLOX::GList<NodeImpl *>{grandchild.getImpl()});
+    EXPECT_EQ(pendingKind(*scene, grandchild), -1) << "the scene does not see it";
+    EXPECT_TRUE(grandchild.getImpl()->isUpdateHandlerOverridden());
+
+    // A node joining the cached tree takes its handler; one leaving drops it.
+    RectNode late = rect(0, 0);
+    late.setParent(child);
+    EXPECT_EQ(late.getImpl()->getUpdateHandler(), impl);
+    late.unparent();
+    EXPECT_EQ(late.getImpl()->getUpdateHandler(), nullptr);
+
+    composite.setCacheType(CacheType::None);
+    int reportsBefore = impl->reports.size();
+    grandchild.setPosition({2, 2});
+    EXPECT_EQ(pendingKind(*scene, grandchild), int(PendingChangeKind::Geometry));
+    EXPECT_EQ(impl->reports.size(), reportsBefore);
+}
