@@ -12,4 +12,6 @@ if [ "${1:-}" = "--sanitize" ]; then
 fi
 "$root/scripts/build.sh" "$dir" "${opts[@]}"
 export QT_QPA_PLATFORM=offscreen
+export XDG_RUNTIME_DIR="${XDG_RUNTIME_DIR:-/tmp/runtime-$(id -u)}"
+mkdir -p -m 700 "$XDG_RUNTIME_DIR"
 cd "$dir" && ctest --output-on-failure -j2
