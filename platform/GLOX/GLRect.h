@@ -47,6 +47,13 @@ struct GLRect {
         return !isEmpty() && p.x >= x && p.x <= right() && p.y >= y && p.y <= bottom();
     }
 
+    // Edges inclusive; an empty rectangle neither contains nor is contained.
+    bool contains(GLRect const &o) const
+    {
+        return !isEmpty() && !o.isEmpty() && o.x >= x && o.right() <= right() && o.y >= y &&
+               o.bottom() <= bottom();
+    }
+
     bool intersects(GLRect const &o) const
     {
         return !isEmpty() && !o.isEmpty() && x < o.right() && o.x < right() && y < o.bottom() &&

@@ -1,0 +1,293 @@
+#include <Bounds>
+#include <Ellipse>
+#include <RoundedRect>
+
+#include <gtest/gtest.h>
+#include <cmath>
+
+using namespace VOR2;
+using GLOX::GLPoint;
+using Rect = GLOX::GLRect<double>;
+using Pt = GLOX::GLPoint<double>;
+
+namespace {
+Bounds ellipse(double x, double y, double w, double h)
+{
+    return Bounds(Ellipse(Rect(x, y, w, h)));
+}
+} // namespace
+
+TEST(BoundsConstruction, RectanglesStayBareAndShapesAllocate)
+{
+    Bounds empty;
+    EXPECT_TRUE(empty.isEmpty());
+    EXPECT_TRUE(empty.isOnlyRect());
+    EXPECT_TRUE(empty.boundingRects().isEmpty());
+
+    Bounds e = ellipse(0, 0, 10, 20);
+    EXPECT_FALSE(e.isOnlyRect());
+    EXPECT_FALSE(e.isEmpty());
+    EXPECT_EQ(e.boundingRect(), Rect(0, 0, 10, 20));
+
+    // A corner of the rectangle is inside the rectangle, not the ellipse.
+    EXPECT_FALSE(e.contains(Pt(0, 0)));
+    EXPECT_TRUE(Bounds(Rect(0, 0, 10, 20)).contains(Pt(0, 0)));
+    EXPECT_TRUE(e.contains(Pt(5, 10)));
+
+    Bounds rounded(RoundedRect(Rect(0, 0, 10, 10), 3, 3));
+    EXPECT_FALSE(rounded.isOnlyRect());
+    EXPECT_FALSE(rounded.contains(Pt(0.2, 0.2)));
+    EXPECT_TRUE(rounded.contains(Pt(5, 0.2)));
+    EXPECT_TRUE(Bounds(RoundedRect(Rect(0, 0, 10, 10), 0, 3)).isOnlyRect());
+
+    QPainterPath empty_path;
+    EXPECT_TRUE(Bounds(empty_path).isOnlyRect());
+    EXPECT_TRUE(Bounds(GLOX::Shape()).isEmpty());
+}
+
+TEST(BoundsConstruction, PolygonsAndRectangleLists)
+{
+    Bounds triangle(GLOX::GList<Pt>{{0, 0}, {10, 0}, {0, 10}});
+    EXPECT_EQ(triangle.boundingRect(), Rect(0, 0, 10, 10));
+    EXPECT_TRUE(triangle.contains(Pt(2, 2)));
+    EXPECT_FALSE(triangle.contains(Pt(8, 8)));
+
+    Bounds diamond(Pt(5, 0), Pt(10, 5), Pt(5, 10), Pt(0, 5));
+    EXPECT_TRUE(diamond.contains(Pt(5, 5)));
+    EXPECT_FALSE(diamond.contains(Pt(1, 1)));
+
+    // Rectangles that add up to one rectangle stay bare.
+    Bounds strips(GLOX::GList<Rect>{{0, 0, 10, 5}, {0, 5, 10, 5}, {2, 2, 3, 3}, {0, 0, 0, 0}});
+    EXPECT_TRUE(strips.isOnlyRect());
+    EXPECT_EQ(strips.boundingRect(), Rect(0, 0, 10, 10));
+
+    // An L of overlapping rectangles: the overlap is inside, the notch is not.
+    Bounds ell(GLOX::GList<Rect>{{0, 0, 10, 4}, {0, 0, 4, 10}});
+    EXPECT_FALSE(ell.isOnlyRect());
+    EXPECT_EQ(ell.boundingRect(), Rect(0, 0, 10, 10));
+    EXPECT_TRUE(ell.contains(Pt(2, 2)));
+    EXPECT_TRUE(ell.contains(Pt(8, 2)));
+    EXPECT_TRUE(ell.contains(Pt(2, 8)));
+    EXPECT_FALSE(ell.contains(Pt(8, 8)));
+    EXPECT_TRUE(Bounds(GLOX::GList<Rect>()).isEmpty());
+}
+
+TEST(BoundsRects, PointTestsCountEdgesAndTolerance)
+{
+    Bounds r(Rect(0, 0, 10, 10));
+    EXPECT_TRUE(r.contains(Pt(10, 10)));
+    EXPECT_TRUE(r.contains(Pt(0, 5)));
+    EXPECT_FALSE(r.contains(Pt(10.001, 5)));
+    EXPECT_TRUE(r.intersectsWith(Pt(10.5, 5), 1.0));
+    EXPECT_TRUE(r.intersectsWith(Pt(-1, -1), 1.0)); // corner of the square touches the corner
+    EXPECT_FALSE(r.intersectsWith(Pt(10.5, 5), 0.4));
+    EXPECT_FALSE(r.intersectsWith(Pt(10.5, 5), -3.0));
+    EXPECT_FALSE(Bounds(Rect(0, 0, 0, 10)).intersectsWith(Pt(0, 5), 1.0));
+
+    Bounds e = ellipse(0, 0, 10, 10);
+    EXPECT_FALSE(e.intersectsWith(Pt(0.5, 0.5), 0.5));
+    EXPECT_TRUE(e.intersectsWith(Pt(5, -0.5), 1.0));
+    EXPECT_FALSE(e.intersectsWith(Pt(5, -0.5), 0.0));
+}
+
+TEST(BoundsRects, ArithmeticStaysBareWherePossible)
+{
+    Rect const a(0, 0, 10, 10);
+    EXPECT_EQ((Bounds(a) & Bounds(Rect(5, 5, 10, 10))).boundingRect(), Rect(5, 5, 5, 5));
+    EXPECT_TRUE((Bounds(a) & Bounds(Rect(20, 0, 5, 5))).isEmpty());
+    EXPECT_TRUE((Bounds(a) & Bounds(Rect(10, 0, 5, 5))).isEmpty()); // touching only
+
+    Bounds contained = Bounds(a) | Bounds(Rect(2, 2, 3, 3));
+    EXPECT_TRUE(contained.isOnlyRect());
+    EXPECT_EQ(contained.boundingRect(), a);
+    Bounds column = Bounds(a) | Bounds(Rect(0, 10, 10, 5));
+    EXPECT_TRUE(column.isOnlyRect());
+    EXPECT_EQ(column.boundingRect(), Rect(0, 0, 10, 15));
+    Bounds withEmpty = Bounds(a) | Bounds();
+    EXPECT_EQ(withEmpty, Bounds(a));
+    EXPECT_EQ(Bounds() | Bounds(a), Bounds(a));
+
+    // Not one rectangle: an exact path of both.
+    Bounds apart = Bounds(a) | Bounds(Rect(20, 0, 10, 10));
+    EXPECT_FALSE(apart.isOnlyRect());
+    EXPECT_EQ(apart.boundingRect(), Rect(0, 0, 30, 10));
+    EXPECT_TRUE(apart.contains(Pt(25, 5)));
+    EXPECT_FALSE(apart.contains(Pt(15, 5)));
+    GLOX::GList<Rect> pieces = apart.boundingRects();
+    ASSERT_EQ(pieces.size(), 2);
+    EXPECT_TRUE(pieces.contains(a));
+    EXPECT_TRUE(pieces.contains(Rect(20, 0, 10, 10)));
+
+    Bounds cross = Bounds(Rect(0, 4, 10, 2)) | Bounds(Rect(4, 0, 2, 10));
+    EXPECT_FALSE(cross.isOnlyRect());
+    EXPECT_TRUE(cross.contains(Pt(5, 5)));
+    EXPECT_TRUE(cross.contains(Pt(1, 5)));
+    EXPECT_FALSE(cross.contains(Pt(1, 1)));
+}
+
+TEST(BoundsDispatch, IntersectsWithAllFourWays)
+{
+    Bounds e = ellipse(0, 0, 10, 10);
+    Bounds corner(Rect(0, 0, 1, 1)); // inside the ellipse's rectangle, outside the ellipse
+    Bounds middle(Rect(4, 4, 2, 2));
+
+    EXPECT_TRUE(Bounds(Rect(0, 0, 10, 10)).intersectsWith(corner));
+    EXPECT_FALSE(Bounds(Rect(1, 0, 1, 1)).intersectsWith(corner));
+    EXPECT_FALSE(e.intersectsWith(corner));
+    EXPECT_TRUE(e.intersectsWith(middle));
+    EXPECT_FALSE(corner.intersectsWith(e));
+    EXPECT_TRUE(middle.intersectsWith(e));
+    EXPECT_FALSE(e.intersectsWith(ellipse(9, 9, 10, 10))); // rectangles overlap, ellipses do not
+    EXPECT_TRUE(e.intersectsWith(ellipse(5, 0, 10, 10)));
+    EXPECT_FALSE(e.intersectsWith(Bounds()));
+    EXPECT_FALSE(Bounds().intersectsWith(e));
+}
+
+TEST(BoundsDispatch, ContainsAllFourWays)
+{
+    Bounds e = ellipse(0, 0, 10, 10);
+    EXPECT_TRUE(Bounds(Rect(0, 0, 10, 10)).contains(Bounds(Rect(0, 0, 10, 10))));
+    EXPECT_FALSE(Bounds(Rect(0, 0, 10, 10)).contains(Bounds(Rect(5, 5, 10, 1))));
+    EXPECT_TRUE(e.contains(Bounds(Rect(4, 4, 2, 2))));
+    EXPECT_FALSE(e.contains(Bounds(Rect(0, 0, 2, 2))));
+    EXPECT_TRUE(Bounds(Rect(0, 0, 10, 10)).contains(e));
+    EXPECT_FALSE(Bounds(Rect(1, 0, 9, 10)).contains(e));
+    EXPECT_TRUE(e.contains(ellipse(3, 3, 4, 4)));
+    EXPECT_FALSE(ellipse(3, 3, 4, 4).contains(e));
+    EXPECT_TRUE(e.contains(e));
+    EXPECT_FALSE(e.contains(Bounds()));
+    EXPECT_FALSE(Bounds().contains(Bounds()));
+}
+
+TEST(BoundsDispatch, IntersectAllFourWays)
+{
+    Bounds e = ellipse(0, 0, 10, 10);
+    Rect const rightHalf(5, -5, 10, 20);
+
+    Bounds shapeRect = e & Bounds(rightHalf);
+    Bounds rectShape = Bounds(rightHalf) & e;
+    EXPECT_FALSE(shapeRect.isOnlyRect());
+    EXPECT_NEAR(shapeRect.boundingRect().x, 5, 1e-9);
+    EXPECT_NEAR(shapeRect.boundingRect().width, 5, 1e-6);
+    EXPECT_TRUE(shapeRect.contains(Pt(9, 5)));
+    EXPECT_FALSE(shapeRect.contains(Pt(9.5, 0.5)));
+    EXPECT_FALSE(shapeRect.contains(Pt(2, 5)));
+    EXPECT_EQ(rectShape, shapeRect);
+
+    // Shape inside the rectangle, or rectangle inside the shape: no path work.
+    EXPECT_EQ(e & Bounds(Rect(-1, -1, 20, 20)), e);
+    EXPECT_EQ(Bounds(Rect(-1, -1, 20, 20)) & e, e);
+    Bounds inner = e & Bounds(Rect(4, 4, 2, 2));
+    EXPECT_TRUE(inner.isOnlyRect());
+    EXPECT_EQ(inner.boundingRect(), Rect(4, 4, 2, 2));
+    EXPECT_TRUE((e & Bounds(Rect(20, 20, 1, 1))).isEmpty());
+    EXPECT_TRUE((e & Bounds()).isEmpty());
+
+    Bounds lens = e & ellipse(5, 0, 10, 10);
+    EXPECT_FALSE(lens.isOnlyRect());
+    EXPECT_NEAR(lens.boundingRect().x, 5, 1e-6);
+    EXPECT_NEAR(lens.boundingRect().right(), 10, 1e-6);
+    EXPECT_TRUE(lens.contains(Pt(7.5, 5)));
+    EXPECT_FALSE(lens.contains(Pt(7.5, 0.5)));
+    Bounds apart = e & ellipse(9, 9, 10, 10);
+    EXPECT_TRUE(apart.isEmpty());
+    EXPECT_TRUE(apart.isOnlyRect());
+}
+
+TEST(BoundsDispatch, UnionAllFourWays)
+{
+    Bounds e = ellipse(0, 0, 10, 10);
+    Rect const side(10, 4, 5, 2);
+
+    Bounds shapeRect = e | Bounds(side);
+    Bounds rectShape = Bounds(side) | e;
+    EXPECT_FALSE(shapeRect.isOnlyRect());
+    EXPECT_EQ(shapeRect.boundingRect(), Rect(0, 0, 15, 10));
+    EXPECT_TRUE(shapeRect.contains(Pt(14, 5)));
+    EXPECT_TRUE(shapeRect.contains(Pt(5, 5)));
+    EXPECT_FALSE(shapeRect.contains(Pt(12, 1)));
+    EXPECT_FALSE(shapeRect.contains(Pt(0.5, 0.5)));
+    EXPECT_EQ(rectShape.boundingRect(), shapeRect.boundingRect());
+    EXPECT_TRUE(rectShape.contains(Pt(14, 5)));
+    EXPECT_FALSE(rectShape.contains(Pt(0.5, 0.5)));
+
+    // A rectangle holding the shape swallows it.
+    Bounds swallowed = e | Bounds(Rect(0, 0, 10, 10));
+    EXPECT_TRUE(swallowed.isOnlyRect());
+    EXPECT_EQ(swallowed.boundingRect(), Rect(0, 0, 10, 10));
+    EXPECT_TRUE((Bounds(Rect(-5, -5, 20, 20)) | e).isOnlyRect());
+    EXPECT_EQ(e | Bounds(), e);
+
+    Bounds pair = e | ellipse(20, 0, 10, 10);
+    EXPECT_EQ(pair.boundingRect(), Rect(0, 0, 30, 10));
+    EXPECT_TRUE(pair.contains(Pt(25, 5)));
+    EXPECT_FALSE(pair.contains(Pt(15, 5)));
+    EXPECT_EQ(pair.boundingRects().size(), 2);
+}
+
+TEST(BoundsTransform, ScalesKeepRectanglesAndRotationsMakePaths)
+{
+    Bounds r(Rect(0, 0, 10, 10));
+    Bounds moved = r.transformed(GLOX::Transform::fromTranslate(5, -2));
+    EXPECT_TRUE(moved.isOnlyRect());
+    EXPECT_EQ(moved.boundingRect(), Rect(5, -2, 10, 10));
+    Bounds flipped = r.transformed(GLOX::Transform::fromScale(-2, 1));
+    EXPECT_TRUE(flipped.isOnlyRect());
+    EXPECT_EQ(flipped.boundingRect(), Rect(-20, 0, 20, 10));
+
+    Bounds turned = r.transformed(GLOX::Transform::fromRotateDegrees(45));
+    EXPECT_FALSE(turned.isOnlyRect());
+    double const d = 10 / std::sqrt(2.0);
+    EXPECT_NEAR(turned.boundingRect().x, -d, 1e-9);
+    EXPECT_NEAR(turned.boundingRect().height, 2 * d, 1e-9);
+    EXPECT_TRUE(turned.contains(Pt(0, 7)));
+    EXPECT_FALSE(turned.contains(Pt(-d + 1, 1))); // in the bounding rectangle only
+
+    Bounds degenerate = Bounds(Rect(3, 0, 0, 10)).transformed(GLOX::Transform::fromRotateDegrees(30));
+    EXPECT_TRUE(degenerate.isEmpty());
+
+    Bounds e = ellipse(0, 0, 10, 10);
+    e.transform(GLOX::Transform::fromTranslate(100, 0));
+    EXPECT_EQ(e.boundingRect(), Rect(100, 0, 10, 10));
+    EXPECT_TRUE(e.contains(Pt(105, 5)));
+    EXPECT_FALSE(e.contains(Pt(100.5, 0.5)));
+}
+
+TEST(BoundsValue, EqualityPathsAndSimplification)
+{
+    QPainterPath square;
+    square.addRect(0, 0, 10, 10);
+    EXPECT_EQ(Bounds(square), Bounds(Rect(0, 0, 10, 10)));
+    EXPECT_EQ(Bounds(Rect(0, 0, 10, 10)), Bounds(square));
+    EXPECT_NE(Bounds(Rect(0, 0, 10, 10)), ellipse(0, 0, 10, 10));
+    EXPECT_NE(ellipse(0, 0, 10, 10), Bounds(Rect(0, 0, 10, 10)));
+    EXPECT_EQ(ellipse(0, 0, 10, 10), ellipse(0, 0, 10, 10));
+    EXPECT_NE(ellipse(0, 0, 10, 10), ellipse(0, 0, 10, 11));
+    EXPECT_NE(Bounds(Rect(0, 0, 10, 10)), Bounds(Rect(0, 0, 10, 11)));
+
+    Bounds e = ellipse(1, 2, 3, 4);
+    EXPECT_TRUE(e.asQPainterPath().contains(QPointF(2.5, 4)));
+    EXPECT_FALSE(e.asQPainterPath().contains(QPointF(1.1, 2.1)));
+    EXPECT_EQ(e.asShape().getPath(), e.asQPainterPath());
+    EXPECT_EQ(Bounds(Rect(1, 2, 3, 4)).asQPainterPath().boundingRect(), QRectF(1, 2, 3, 4));
+    EXPECT_EQ(Bounds(e.asShape()), e);
+
+    e.simplifyToRect();
+    EXPECT_TRUE(e.isOnlyRect());
+    EXPECT_EQ(e.boundingRect(), Rect(1, 2, 3, 4));
+    EXPECT_TRUE(e.contains(Pt(1, 2)));
+    e.clear();
+    EXPECT_EQ(e, Bounds());
+}
+
+TEST(BoundsValue, PiecesOfAShape)
+{
+    QPainterPath ring;
+    ring.addRect(0, 0, 10, 10);
+    ring.addRect(3, 3, 4, 4); // hole under the odd-even rule
+    Bounds b(ring);
+    EXPECT_FALSE(b.contains(Pt(5, 5)));
+    EXPECT_TRUE(b.contains(Pt(1, 5)));
+    EXPECT_EQ(b.boundingRects(), GLOX::GList<Rect>{Rect(0, 0, 10, 10)});
+    EXPECT_EQ(Bounds(Rect(1, 1, 2, 2)).boundingRects(), GLOX::GList<Rect>{Rect(1, 1, 2, 2)});
+}
