@@ -1,0 +1,19 @@
+#pragma once
+// Pixel helpers for rendering tests: a transparent ARGB image to paint in,
+// and colour comparison with a tolerance per channel.
+
+#include <QColor>
+#include <QImage>
+#include <string>
+
+namespace VOR2::test {
+
+// A premultiplied ARGB image of w by h, fully transparent.
+QImage transparentImage(int w, int h);
+
+// True when every channel of the pixel at (x, y) is within `tolerance`
+// of `expected`; `why` receives a readable difference otherwise.
+bool pixelMatches(QImage const &image, int x, int y, QColor const &expected, int tolerance = 0,
+                  std::string *why = nullptr);
+
+} // namespace VOR2::test
