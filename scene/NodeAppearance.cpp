@@ -106,6 +106,19 @@ Behavior *Node::getBehavior() const { return getValidImpl()->getBehavior(); }
 void Node::setBehavior(Behavior *behavior) const { getValidImpl()->setBehavior(behavior); }
 void Node::clearBehavior() const { getValidImpl()->clearBehavior(); }
 
+// --------------------------------------------------------------- selection
+
+void Node::setSelected(bool selected) const { getValidImpl()->getGraphicsItem()->setSelected(selected); }
+bool Node::isSelected() const { return getValidImpl()->getGraphicsItem()->isSelected(); }
+void Node::toggleSelected() const { setSelected(!isSelected()); }
+
+bool Node::isAncestorSelected() const
+{
+    for (NodeImpl *p = getValidImpl()->getParentImpl(); p; p = p->getParentImpl())
+        if (p->getGraphicsItem()->isSelected()) return true;
+    return false;
+}
+
 // ------------------------------------------------------------------- focus
 
 void Node::setFocus() const { setFocus(GLOX::OtherFocusReason); }
@@ -119,7 +132,7 @@ bool Node::hasFocus() const { return getValidImpl()->getGraphicsItem()->hasFocus
 
 void Node::clearFocus() const
 {
-    if (QGraphicsScene *scene = getValidImpl()->getGraphicsScene()) scene->setFocusItem(nullptr);
+    if (QGraphicsScene *scene = getValidImpl()->getGraphicsScene()) scene->clearFocus();
 }
 
 // ----------------------------------------------------------------- signals

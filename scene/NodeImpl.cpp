@@ -299,6 +299,9 @@ void NodeImpl::itemChangeHook(QGraphicsItem::GraphicsItemChange change, QVariant
     switch (change) {
     case QGraphicsItem::ItemParentHasChanged: onParentHasChanged(); break;
     case QGraphicsItem::ItemChildAddedChange: layoutContents(); break;
+    // A selected node of a scene that uses node selection shows the scene's
+    // selection effect; that arrives with node effects.
+    case QGraphicsItem::ItemSelectedHasChanged: break;
     default: break;
     }
 }

@@ -74,6 +74,7 @@ public:
     void setToolOverrideCursor(GLOX::Cursor const &cursor);
     void clearToolOverrideCursor();
     bool usesNodeSelection() const { return m_useNodeSelection; }
+    void setUseNodeSelection(bool use) { m_useNodeSelection = use; }
 
     // --- Signals --------------------------------------------------------
     GLUV::Emitter<void (*)()> aboutToDestroy{GLUV::SendAuto};

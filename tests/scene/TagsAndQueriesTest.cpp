@@ -81,3 +81,36 @@ TEST_F(TagsAndQueries, TransformedParentsCarryTheirChildrensHitAreas)
     parent.clearTransform();
     EXPECT_EQ(scene->getNodeAt({25, 5}), child);
 }
+
+TEST_F(TagsAndQueries, SelectionTakesOnlySelectableNodes)
+{
+    auto scene = Scene::createScene();
+    RectNode a = rect(0, 0, 10, 10), b = rect(20, 0, 10, 10), child = rect(2, 2, 2, 2);
+    scene->addNode(a);
+    scene->addNode(b);
+    child.setParent(a);
+    scene->selectAll();
+    EXPECT_TRUE(scene->getAllSelectedNodes().isEmpty()) << "new nodes are not selectable";
+
+    a.setSelectable(true);
+    b.setSelectable(true);
+    scene->setSelection(GLOX::GLRect<double>(-5, -5, 50, 50), true);
+    EXPECT_EQ(scene->getAllSelectedNodes().size(), 2);
+    EXPECT_TRUE(child.isAncestorSelected());
+    EXPECT_FALSE(a.isAncestorSelected());
+    scene->setSelection(GLOX::GLPoint<double>(25, 5), false);
+    EXPECT_FALSE(b.isSelected());
+    a.toggleSelected();
+    EXPECT_FALSE(child.isAncestorSelected());
+    b.setSelected(true);
+    scene->deselectAll();
+    EXPECT_TRUE(scene->getAllSelectedNodes().isEmpty());
+
+    // Only focusable items (editable text) take focus; others leave none.
+    a.setFocus();
+    EXPECT_FALSE(a.hasFocus());
+    scene->setFocusNode(a);
+    EXPECT_FALSE(scene->getFocusNode().isValid());
+    scene->setFocusNode(Node());
+    a.clearFocus();
+}
