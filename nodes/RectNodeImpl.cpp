@@ -16,6 +16,7 @@ void RectNodeImpl::setRect(QRectF const &rect)
     if (rect.x() == m_rect.x() && rect.y() == m_rect.y() && rect.width() == m_rect.width() &&
         rect.height() == m_rect.height())
         return;
+    prepareItemGeometryChange(); // while Qt can still see the old rectangle
     m_rect = rect;
     notifyGeometryChanged(false);
 }

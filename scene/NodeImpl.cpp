@@ -23,12 +23,15 @@ char const *const NODE_TYPE_NAME = "VOR2.Node";
 char const *const INSTANCE_COUNT = "Node:Node instance count";
 
 // Forces Qt to recompute the scene transforms of a moved subtree:
-// post-order, a translation there and back on every item.
+// post-order, a translation there and back on every item. The transform is
+// then put back exactly, so that rounding in the round trip cannot drift.
 void nudgeSubtree(QGraphicsItem *item)
 {
     for (QGraphicsItem *child : item->childItems()) nudgeSubtree(child);
+    QTransform const saved = item->transform();
     item->setTransform(QTransform::fromTranslate(10, 10), true);
     item->setTransform(QTransform::fromTranslate(-10, -10), true);
+    item->setTransform(saved);
 }
 } // namespace
 
@@ -123,6 +126,8 @@ void NodeImpl::setDrawStyle(DrawStyle const &style)
     else if (!(m_drawStyle == style))
         notifyRepaint();
     m_drawStyle = style;
+    // The report ran with the old style stored; drop what it may have cached.
+    if (outlineChanged) invalidateCaches();
 }
 
 void NodeImpl::setCacheType(CacheType type)
@@ -188,6 +193,8 @@ void NodeImpl::notifyMoved()
 void NodeImpl::setBehavior(Behavior *behavior)
 {
     if (behavior == m_behavior.get()) return;
+    // Taking it from its old node may drop its last count: hold it here.
+    GLOX::Holder<Behavior> keep(behavior);
     if (behavior && behavior->m_node && behavior->m_node != this) behavior->m_node->setBehavior(nullptr);
     if (m_behavior) m_behavior->m_node = nullptr;
     m_behavior = behavior;
@@ -232,31 +239,35 @@ NodeViewCache &NodeImpl::currentViewCache()
     return *entry;
 }
 
+// The computations may run client code that reports a change and so clears
+// the view cache: compute first, then look the entry up again to store.
 Bounds NodeImpl::getCachedStrokedOutline(double scale)
 {
-    NodeViewCache &entry = currentViewCache();
-    if (!entry.strokedOutline.boundingRect().isValid()) entry.strokedOutline = computeStrokedOutline(scale);
-    return entry.strokedOutline;
+    Bounds cached = currentViewCache().strokedOutline;
+    if (cached.boundingRect().isValid()) return cached;
+    Bounds computed = computeStrokedOutline(scale);
+    currentViewCache().strokedOutline = computed;
+    return computed;
 }
 
 Bounds NodeImpl::getCachedMaximumBounds(double scale)
 {
-    NodeViewCache &entry = currentViewCache();
-    if (!entry.maximumBounds.boundingRect().isValid()) entry.maximumBounds = computeMaximumBounds(scale);
-    return entry.maximumBounds;
+    Bounds cached = currentViewCache().maximumBounds;
+    if (cached.boundingRect().isValid()) return cached;
+    Bounds computed = computeMaximumBounds(scale);
+    currentViewCache().maximumBounds = computed;
+    return computed;
 }
 
 Bounds NodeImpl::getCachedHitBounds(double scale)
 {
-    NodeViewCache &entry = currentViewCache();
-    if (!entry.hitBounds.boundingRect().isValid()) {
-        if (m_customHitTest)
-            entry.hitBounds =
-                m_customHitTest->getHitBounds(Node(this), GlobalViewerInfo::instance()->getViewerScale());
-        else
-            entry.hitBounds = computeHitBounds(scale);
-    }
-    return entry.hitBounds;
+    Bounds cached = currentViewCache().hitBounds;
+    if (cached.boundingRect().isValid()) return cached;
+    Bounds computed = m_customHitTest
+                          ? m_customHitTest->getHitBounds(Node(this), GlobalViewerInfo::instance()->getViewerScale())
+                          : computeHitBounds(scale);
+    currentViewCache().hitBounds = computed;
+    return computed;
 }
 
 Bounds NodeImpl::computeStrokedOutline(double) { return getBounds(); }
@@ -321,6 +332,9 @@ void NodeImpl::onParentHasChanged()
 
 void NodeImpl::destroy()
 {
+    // The count is 0 here. Hold one for good, so that a handle made on this
+    // node by the hooks below cannot bring the count to 0 a second time.
+    ref();
     WeakRef::implDestroyed(this);
     NodeEmitterTable::instance().removeAll(this);
     for (NodeImpl *child : getChildImpls()) child->setParent(nullptr);

@@ -165,3 +165,46 @@ TEST_F(NodeState, ChildrenTreeCachingRoutesTheSubtreesReports)
     EXPECT_EQ(pendingKind(*scene, grandchild), int(PendingChangeKind::Geometry));
     EXPECT_EQ(impl->reports.size(), reportsBefore);
 }
+
+TEST_F(NodeState, ABehaviourMovesBetweenNodesWithNoOtherHolder)
+{
+    RectNode a = rect(0, 0), b = rect(0, 0);
+    a.setBehavior(new Behavior);
+    b.setBehavior(a.getBehavior());
+    ASSERT_NE(b.getBehavior(), nullptr);
+    EXPECT_EQ(b.getBehavior()->getNode(), b);
+    EXPECT_EQ(b.getBehavior()->refCount(), 1u);
+}
+
+namespace {
+// A hit test whose hit area query changes the node it measures.
+struct ReshapingHitTest : Node::CustomHitTestFunctor {
+    bool contains(Node, GLOX::GLPoint<double> const &, double) override { return true; }
+    bool intersects(Node, GLOX::GLRect<double> const &, double) override { return true; }
+    bool intersects(Node, Bounds const &, double) override { return true; }
+    Bounds getHitBounds(Node node, double) override
+    {
+        RectNode(node.getImpl()).setRect({0, 0, 30, 30});
+        return node.getBounds();
+    }
+};
+} // namespace
+
+TEST_F(NodeState, CachesSurviveAComputationThatReportsAChange)
+{
+    RectNode n = rect(0, 0, 10, 10);
+    n.setCustomHitTestFunctor(new ReshapingHitTest);
+    QRectF r = n.getImpl()->getGraphicsItem()->boundingRect();
+    // The outline (hairline, old rectangle) was taken before the hit area
+    // query reshaped the node; the union reaches the new 30 by 30 rectangle.
+    EXPECT_EQ(r, QRectF(-0.5, -0.5, 30.5, 30.5));
+}
+
+TEST_F(NodeState, ReparentingLeavesTransformsExactlyAsSet)
+{
+    RectNode a = rect(0, 0), b = rect(0, 0), child = rect(0, 0);
+    child.setTransform(QTransform().rotate(33.3).translate(0.1, 0.7));
+    GLOX::Transform set = child.getTransform();
+    for (int i = 0; i < 50; ++i) child.setParent(i % 2 ? a : b);
+    EXPECT_EQ(child.getTransform(), set);
+}
