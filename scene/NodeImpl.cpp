@@ -241,33 +241,32 @@ NodeViewCache &NodeImpl::currentViewCache()
 
 // The computations may run client code that reports a change and so clears
 // the view cache: compute first, then look the entry up again to store.
+template <typename Compute>
+Bounds NodeImpl::cachedInView(Bounds NodeViewCache::*field, Compute compute)
+{
+    Bounds cached = currentViewCache().*field;
+    if (cached.boundingRect().isValid()) return cached;
+    Bounds computed = compute();
+    currentViewCache().*field = computed;
+    return computed;
+}
+
 Bounds NodeImpl::getCachedStrokedOutline(double scale)
 {
-    Bounds cached = currentViewCache().strokedOutline;
-    if (cached.boundingRect().isValid()) return cached;
-    Bounds computed = computeStrokedOutline(scale);
-    currentViewCache().strokedOutline = computed;
-    return computed;
+    return cachedInView(&NodeViewCache::strokedOutline, [&] { return computeStrokedOutline(scale); });
 }
 
 Bounds NodeImpl::getCachedMaximumBounds(double scale)
 {
-    Bounds cached = currentViewCache().maximumBounds;
-    if (cached.boundingRect().isValid()) return cached;
-    Bounds computed = computeMaximumBounds(scale);
-    currentViewCache().maximumBounds = computed;
-    return computed;
+    return cachedInView(&NodeViewCache::maximumBounds, [&] { return computeMaximumBounds(scale); });
 }
 
 Bounds NodeImpl::getCachedHitBounds(double scale)
 {
-    Bounds cached = currentViewCache().hitBounds;
-    if (cached.boundingRect().isValid()) return cached;
-    Bounds computed = m_customHitTest
-                          ? m_customHitTest->getHitBounds(Node(this), GlobalViewerInfo::instance()->getViewerScale())
-                          : computeHitBounds(scale);
-    currentViewCache().hitBounds = computed;
-    return computed;
+    return cachedInView(&NodeViewCache::hitBounds, [&] {
+        if (!m_customHitTest) return computeHitBounds(scale);
+        return m_customHitTest->getHitBounds(Node(this), GlobalViewerInfo::instance()->getViewerScale());
+    });
 }
 
 Bounds NodeImpl::computeStrokedOutline(double) { return getBounds(); }

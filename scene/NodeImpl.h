@@ -151,6 +151,8 @@ protected:
 private:
     void onParentHasChanged();
     NodeViewCache &currentViewCache();
+    template <typename Compute>
+    Bounds cachedInView(Bounds NodeViewCache::*field, Compute compute);
     NodeUpdateHandler *effectiveUpdateHandler() const;
 
     GLOX::GList<GLOX::StringID> m_tags;

@@ -9,6 +9,7 @@
 
 #include <atomic>
 #include <memory>
+#include <vector>
 
 namespace GLUV {
 
@@ -49,5 +50,11 @@ private:
     std::weak_ptr<EmitterCore> m_emitter;
     std::shared_ptr<ListenerLinks> m_links;
 };
+
+using ConnectionList = std::vector<std::shared_ptr<ConnectionCore>>;
+
+// Takes `connection` out of `list` and hands it back (null when absent), so
+// the caller can let it go after releasing its lock.
+std::shared_ptr<ConnectionCore> takeConnection(ConnectionList &list, ConnectionCore const *connection);
 
 } // namespace GLUV

@@ -72,12 +72,8 @@ void EmitterCore::remove(ConnectionCore const *connection)
 {
     std::shared_ptr<ConnectionCore> removed; // released after the lock
     std::lock_guard<std::mutex> lock(m_mutex);
-    auto it = std::find_if(m_connections.begin(), m_connections.end(),
-                           [connection](auto const &c) { return c.get() == connection; });
-    if (it == m_connections.end()) return;
-    removed = std::move(*it);
-    m_connections.erase(it);
-    m_snapshot.reset();
+    removed = takeConnection(m_connections, connection);
+    if (removed) m_snapshot.reset();
 }
 
 } // namespace GLUV
