@@ -33,8 +33,7 @@ Bounds RectNodeImpl::computeStrokedOutline(double scale)
 
 void RectNodeImpl::paintContents(QPainter *painter, QStyleOptionGraphicsItem const *, QWidget *)
 {
-    double scale = QStyleOptionGraphicsItem::levelOfDetailFromTransform(painter->worldTransform());
-    applyDrawStyle(painter, getDrawStyle(), scale);
+    applyDrawStyle(painter, getDrawStyle(), paintScale(painter));
     painter->drawRects(&m_rect, 1);
 }
 

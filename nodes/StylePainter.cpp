@@ -1,6 +1,7 @@
 #include "nodes/StylePainter.h"
 
 #include <QPainter>
+#include <QStyleOptionGraphicsItem>
 
 namespace VOR2 {
 
@@ -60,6 +61,11 @@ QBrush brushForFill(Fill const &fill)
 bool isThinLine(QPen const &pen, double scale)
 {
     return pen.widthF() * scale <= THIN_LINE_LIMIT && pen.style() != Qt::NoPen && !pen.isCosmetic();
+}
+
+double paintScale(QPainter const *painter)
+{
+    return QStyleOptionGraphicsItem::levelOfDetailFromTransform(painter->worldTransform());
 }
 
 void applyDrawStyle(QPainter *painter, DrawStyle const &style, double scale)

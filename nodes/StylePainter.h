@@ -26,6 +26,11 @@ QBrush brushForFill(Fill const &fill);
 // A line of exactly one pixel is not thin; nor is a cosmetic pen or none.
 bool isThinLine(QPen const &pen, double scale);
 
+// The view scale a painter paints at: the level of detail of its world
+// transform. Painting reads the scale here, so that a node paints alike in
+// a view, an offscreen image and a render of the node alone.
+double paintScale(QPainter const *painter);
+
 // Gives the painter the style's pen and brush at `scale`, and antialiasing
 // exactly when the style asks for it or the line is thin.
 void applyDrawStyle(QPainter *painter, DrawStyle const &style, double scale);

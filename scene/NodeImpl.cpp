@@ -14,6 +14,7 @@
 #include "scene/ScenePrivate.h"
 
 #include <QGraphicsScene>
+#include <QPainter>
 #include <cstring>
 
 namespace VOR2 {
@@ -301,6 +302,20 @@ bool NodeImpl::itemCollidesWithPath(QPainterPath const &path)
 }
 
 void NodeImpl::paintContents(QPainter *, QStyleOptionGraphicsItem const *, QWidget *) {}
+
+void NodeImpl::paintMask(QPainter *painter, double scale, GLOX::GLRect<double> const &)
+{
+    painter->setRenderHint(QPainter::Antialiasing, m_drawStyle.isAntiAliased());
+    painter->setPen(Qt::NoPen);
+    painter->setBrush(QBrush(QColor(0, 0, 0, 255), Qt::SolidPattern));
+    Bounds outline = getCachedStrokedOutline(scale);
+    if (outline.isOnlyRect()) {
+        QRectF r = GLOX::toQRectF(outline.boundingRect());
+        painter->drawRects(&r, 1);
+    } else {
+        painter->drawPath(outline.asQPainterPath());
+    }
+}
 
 // --------------------------------------------------------- Qt item changes
 

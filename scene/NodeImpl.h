@@ -130,7 +130,11 @@ public:
     virtual bool intersects(Bounds const &b);
 
     // --- Painting -------------------------------------------------------
+    // Paints the node itself, not its children, in its own coordinates.
     virtual void paintContents(QPainter *painter, QStyleOptionGraphicsItem const *option, QWidget *widget);
+    // Paints a solid opaque black mask of the node at `scale`, for effects.
+    // The default fills the cached stroked outline.
+    virtual void paintMask(QPainter *painter, double scale, GLOX::GLRect<double> const &rect);
 
     // --- Qt item changes ------------------------------------------------
     // Called from QGraphicsItem::itemChange before Qt's own handling; it
