@@ -138,6 +138,8 @@ void NodeImpl::setCacheType(CacheType type)
     if (type == CacheType::ChildrenTree) handler = getOwnUpdateHandler();
     for (NodeImpl *child : getChildImpls()) child->applyUpdateHandlerToSubtree(handler);
     m_cacheType = type;
+    // The offscreen path needs to know which part of the node is exposed.
+    getGraphicsItem()->setFlag(QGraphicsItem::ItemUsesExtendedStyleOption, type != CacheType::None);
 }
 
 void NodeImpl::setUpdateHandler(NodeUpdateHandler *handler)

@@ -132,6 +132,15 @@ public:
     // --- Painting -------------------------------------------------------
     // Paints the node itself, not its children, in its own coordinates.
     virtual void paintContents(QPainter *painter, QStyleOptionGraphicsItem const *option, QWidget *widget);
+    // Paints the node for Qt: directly, or through its offscreen image when
+    // it caches itself. Children are Qt's to paint.
+    void paintNode(QPainter *painter, QStyleOptionGraphicsItem const *option, QWidget *widget);
+    // Paints the children, and theirs, in stacking order, with `painter` in
+    // this node's coordinates. For nodes that draw their subtree themselves.
+    virtual void paintChildren(QPainter *painter, QStyleOptionGraphicsItem const *option, QWidget *widget);
+    // An image of the node at `scale`, with its subtree for ChildrenTree;
+    // one device pixel of border on every side.
+    QImage renderToImage(CacheType type, double scale);
     // Paints a solid opaque black mask of the node at `scale`, for effects.
     // The default fills the cached stroked outline.
     virtual void paintMask(QPainter *painter, double scale, GLOX::GLRect<double> const &rect);
@@ -154,6 +163,8 @@ protected:
 
 private:
     void onParentHasChanged();
+    bool usesOffscreenImage() const;
+    void drawOffscreenImage(QRectF const &bounds, double lod);
     NodeViewCache &currentViewCache();
     template <typename Compute>
     Bounds cachedInView(Bounds NodeViewCache::*field, Compute compute);

@@ -15,6 +15,7 @@
 #include <DrawStyle>
 #include <Node>
 
+#include "GLOX/Color.h"
 #include "GLOX/Containers.h"
 #include "GLOX/Cursor.h"
 #include "GLOX/GLRect.h"
@@ -64,6 +65,20 @@ public:
     void scheduleViewUpdate();
     void invalidateSceneBounds();
 
+    // --- Bounds and rendering ---------------------------------------------
+    // Union of the visible nodes' bare bounds in scene coordinates: no stroke
+    // width, no effects. Cached until the next geometry change.
+    GLOX::GLRect<double> getNodesBounds();
+    // Union of the visible items' scene bounding rectangles, strokes and
+    // effects included. Cached the same way.
+    GLOX::GLRect<double> getVisibleItemsRect();
+    bool usingDebugRepaintRegion() const { return m_debugRepaintRegion; }
+    void setDebugRepaintRegion(bool on) { m_debugRepaintRegion = on; }
+    GLOX::Color const &debugRepaintRegionColor() const { return m_debugRepaintRegionColor; }
+    void setDebugRepaintRegionColor(GLOX::Color const &color) { m_debugRepaintRegionColor = color; }
+    bool getTrackingPerformance() const { return m_trackingPerformance; }
+    void setTrackingPerformance(bool on) { m_trackingPerformance = on; }
+
     // --- Styles, background, cursor --------------------------------------
     GLOX::GVector<DrawStyle> &creationDrawStyles() { return m_creationDrawStyles; }
     Background const &getBackground() const { return m_background; }
@@ -92,6 +107,9 @@ private:
 
     Scene *m_scene;
     PendingChanges m_pendingChanges;
+    bool m_debugRepaintRegion = false;
+    GLOX::Color m_debugRepaintRegionColor{0.0, 1.0, 0.0, 0.5};
+    bool m_trackingPerformance = false;
     GLOX::GLRect<double> m_visibleItemsRect;
     GLOX::GLRect<double> m_nodesBounds;
     GLOX::GVector<DrawStyle> m_creationDrawStyles;

@@ -46,7 +46,7 @@ public:
     void paint(QPainter *painter, QStyleOptionGraphicsItem const *option, QWidget *widget) override
     {
         if (isUpdateHandlerOverridden()) return;
-        paintContents(painter, option, widget);
+        paintNode(painter, option, widget);
     }
 
 protected:

@@ -29,4 +29,11 @@ bool pixelMatches(QImage const &image, int x, int y, QColor const &expected, int
     return ok;
 }
 
+::testing::AssertionResult pixelIs(QImage const &image, int x, int y, QColor const &expected, int tolerance)
+{
+    std::string why;
+    if (pixelMatches(image, x, y, expected, tolerance, &why)) return ::testing::AssertionSuccess();
+    return ::testing::AssertionFailure() << why;
+}
+
 } // namespace VOR2::test

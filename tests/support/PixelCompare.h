@@ -4,6 +4,7 @@
 
 #include <QColor>
 #include <QImage>
+#include <gtest/gtest.h>
 #include <string>
 
 namespace VOR2::test {
@@ -15,5 +16,8 @@ QImage transparentImage(int w, int h);
 // of `expected`; `why` receives a readable difference otherwise.
 bool pixelMatches(QImage const &image, int x, int y, QColor const &expected, int tolerance = 0,
                   std::string *why = nullptr);
+
+// The same as an assertion: EXPECT_TRUE(pixelIs(image, x, y, colour)).
+::testing::AssertionResult pixelIs(QImage const &image, int x, int y, QColor const &expected, int tolerance = 2);
 
 } // namespace VOR2::test

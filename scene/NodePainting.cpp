@@ -1,0 +1,152 @@
+// NodeImpl: painting for Qt, through the offscreen image when the node
+// caches itself; painting children by hand; rendering one node to an image.
+
+#include <Diagnostics>
+
+#include "nodes/StylePainter.h"
+#include "scene/NodeImpl.h"
+
+#include <QPainter>
+#include <QStyleOptionGraphicsItem>
+#include <QtMath>
+#include <algorithm>
+#include <functional>
+
+namespace VOR2 {
+
+namespace {
+char const *const OFFSCREEN_REPAINTS = "Scene:Node offscreen repaint count";
+
+// A transparent premultiplied image of `bounds` at `lod`, with a border of
+// one device pixel, and a painter on it set up in the bounds' coordinates.
+QImage borderedImage(QRectF const &bounds, double lod)
+{
+    QImage image(int(std::ceil(bounds.width() * lod)) + 2, int(std::ceil(bounds.height() * lod)) + 2,
+                 QImage::Format_ARGB32_Premultiplied);
+    image.fill(0);
+    return image;
+}
+
+void setUpBorderedPainter(QPainter &painter, QRectF const &bounds, double lod, bool antiAliased)
+{
+    painter.setRenderHint(QPainter::Antialiasing, antiAliased);
+    painter.translate(1, 1);
+    painter.scale(lod, lod);
+    painter.translate(-bounds.x(), -bounds.y());
+}
+} // namespace
+
+bool NodeImpl::usesOffscreenImage() const
+{
+    // Nodes with costly effects take this path too, once they carry effects.
+    return m_cacheType != CacheType::None;
+}
+
+void NodeImpl::paintNode(QPainter *painter, QStyleOptionGraphicsItem const *option, QWidget *widget)
+{
+    if (!usesOffscreenImage()) {
+        paintContents(painter, option, widget);
+        return;
+    }
+    double lod = paintScale(painter);
+    double s = 1.0 / lod; // one device pixel in scene units
+    QRectF bounds = GLOX::toQRectF(getCachedMaximumBounds(lod).boundingRect());
+    // What can show: the exposed part as Qt tells it, cut to the painter's
+    // clip (a render of part of the scene clips to its target).
+    QRectF visible = bounds.intersected(option->exposedRect);
+    if (painter->hasClipping()) visible &= painter->clipBoundingRect();
+    // Only a whole exposure rebuilds the image: a partly exposed dirty node
+    // keeps the image it has, or paints directly.
+    if (m_offscreenDirty && bounds.width() - visible.width() < s && bounds.height() - visible.height() < s) {
+        drawOffscreenImage(bounds, lod);
+        m_offscreenDirty = false;
+    }
+    NodeViewCache &entry = currentViewCache();
+    if (!entry.offscreen) {
+        paintContents(painter, option, widget);
+        return;
+    }
+    QImage const &image = entry.offscreen->image();
+    painter->drawImage(QRectF(bounds.x() - s, bounds.y() - s, image.width() * s, image.height() * s), image);
+}
+
+void NodeImpl::drawOffscreenImage(QRectF const &bounds, double lod)
+{
+    Diagnostics::add(OFFSCREEN_REPAINTS, 1);
+    QImage image = borderedImage(bounds, lod);
+    {
+        QPainter painter(&image);
+        setUpBorderedPainter(painter, bounds, lod, m_drawStyle.isAntiAliased());
+        QStyleOptionGraphicsItem option;
+        option.exposedRect = bounds;
+        paintContents(&painter, &option, nullptr);
+    }
+    currentViewCache().offscreen = std::make_unique<OffscreenPixmap>(std::move(image));
+}
+
+void NodeImpl::paintChildren(QPainter *painter, QStyleOptionGraphicsItem const *option, QWidget *widget)
+{
+    QGraphicsItem *self = getGraphicsItem();
+    QList<QGraphicsItem *> children = self->childItems();
+    if (children.isEmpty()) return;
+    // Behind-the-parent items first; then by z, lowest first; ties by
+    // descending address.
+    std::sort(children.begin(), children.end(), [](QGraphicsItem *a, QGraphicsItem *b) {
+        bool aBehind = a->flags() & QGraphicsItem::ItemStacksBehindParent;
+        bool bBehind = b->flags() & QGraphicsItem::ItemStacksBehindParent;
+        if (aBehind != bBehind) return aBehind;
+        if (a->zValue() != b->zValue()) return a->zValue() < b->zValue();
+        return a > b;
+    });
+    QRectF exposedScene = self->mapRectToScene(option->exposedRect);
+    for (QGraphicsItem *child : children) {
+        if (!child->isVisible()) continue;
+        NodeImpl *node = fromItem(child);
+        painter->save();
+        painter->translate(child->pos());
+        painter->setWorldTransform(child->transform(), true);
+        painter->setOpacity(child->effectiveOpacity());
+        QStyleOptionGraphicsItem childOption(*option);
+        childOption.rect = child->boundingRect().toRect();
+        childOption.exposedRect = child->mapRectFromScene(exposedScene);
+        if (child->flags() & QGraphicsItem::ItemClipsChildrenToShape)
+            childOption.exposedRect &= child->boundingRect();
+        // Straight to the node: children of a node that draws its subtree
+        // are silent when Qt asks them.
+        if (node) {
+            node->paintNode(painter, &childOption, widget);
+            node->paintChildren(painter, &childOption, widget);
+        } else {
+            child->paint(painter, &childOption, widget);
+        }
+        painter->restore();
+    }
+}
+
+QImage NodeImpl::renderToImage(CacheType type, double scale)
+{
+    Bounds bounds = getCachedMaximumBounds(scale);
+    if (type == CacheType::ChildrenTree) {
+        // The subtree's maximum bounds, mapped into this node.
+        std::function<void(NodeImpl *)> unite = [&](NodeImpl *node) {
+            for (NodeImpl *child : node->getChildImpls()) {
+                QRectF r = GLOX::toQRectF(child->getCachedMaximumBounds(scale).boundingRect());
+                bounds.unionWith(Bounds(child->getGraphicsItem()->mapRectToItem(getGraphicsItem(), r)));
+                unite(child);
+            }
+        };
+        unite(this);
+    }
+    QRectF rect = GLOX::toQRectF(bounds.boundingRect());
+    QImage image = borderedImage(rect, scale);
+    QPainter painter(&image);
+    setUpBorderedPainter(painter, rect, scale, m_drawStyle.isAntiAliased());
+    QStyleOptionGraphicsItem option;
+    option.rect = GLOX::toQRectF(getBounds().boundingRect()).toRect();
+    option.exposedRect = rect;
+    paintContents(&painter, &option, nullptr);
+    if (type == CacheType::ChildrenTree) paintChildren(&painter, &option, nullptr);
+    return image;
+}
+
+} // namespace VOR2
