@@ -1,104 +1,100 @@
-// The VOR2 demo: builds a small diagram, works its tree, z-order, tags and
-// queries, and prints what it did. Rectangles are printed in scene
-// coordinates.
+// The VOR2 demo.
+//
+//   vor2_demo [--tour] [--render FILE.png] [--scale S] [--pdf FILE.pdf] [--show]
+//
+// --tour prints a tour of the scene spine (the default without options);
+// --render writes the gallery, every primitive node kind at several styles,
+// as a PNG at S pixels per unit (default 2); --pdf prints it to a PDF file;
+// --show opens a window with the picture when a display is there.
+
+#include "DemoGallery.h"
+#include "DemoTour.h"
 
 #include <VOR2>
 
 #include <QApplication>
+#include <QGuiApplication>
+#include <QLabel>
+#include <QPixmap>
+#include <QPrinter>
+#include <QScrollArea>
 #include <cstdio>
+#include <cstring>
 #include <string>
 
-using namespace VOR2;
-
 namespace {
-std::string describe(Node const &n)
-{
-    if (!n.isValid()) return "(none)";
-    GLOX::GLRect<double> r = n.mapLocalToScene(n.getBounds()).boundingRect();
-    std::string tags;
-    for (GLOX::StringID const &t : n.getTags()) tags += (tags.empty() ? "" : ",") + t.str();
-    char text[160];
-    std::snprintf(text, sizeof text, "%s [%g %g %g %g] z=%g tags={%s}", n.getFullyQualifiedTcosTypeName(), r.x,
-                  r.y, r.width, r.height, n.getZValue(), tags.c_str());
-    return text;
-}
+struct Options {
+    bool tour = false;
+    bool show = false;
+    double scale = 2.0;
+    std::string png;
+    std::string pdf;
+};
 
-void list(char const *title, GLOX::GList<Node> const &nodes)
+bool parse(int argc, char **argv, Options &o)
 {
-    std::printf("%s: %d node(s)\n", title, int(nodes.size()));
-    for (Node const &n : nodes) std::printf("    %s\n", describe(n).c_str());
-}
-
-RectNode box(double x, double y, double w, double h, GLOX::Color fill, char const *tag)
-{
-    RectNode n(GLOX::GLRect<double>(x, y, w, h));
-    n.setFill(Fill(fill));
-    n.addTag(tag);
-    return n;
+    for (int i = 1; i < argc; ++i) {
+        auto value = [&](char const *name) -> char const * {
+            if (i + 1 < argc) return argv[++i];
+            std::fprintf(stderr, "%s needs a value\n", name);
+            return nullptr;
+        };
+        char const *a = argv[i];
+        if (!std::strcmp(a, "--tour")) o.tour = true;
+        else if (!std::strcmp(a, "--show")) o.show = true;
+        else if (!std::strcmp(a, "--render")) { char const *v = value(a); if (!v) return false; o.png = v; }
+        else if (!std::strcmp(a, "--pdf")) { char const *v = value(a); if (!v) return false; o.pdf = v; }
+        else if (!std::strcmp(a, "--scale")) {
+            char const *v = value(a);
+            if (!v || !(std::atof(v) > 0)) { std::fprintf(stderr, "--scale needs a positive number\n"); return false; }
+            o.scale = std::atof(v);
+        } else {
+            std::fprintf(stderr, "unknown option %s\n", a);
+            return false;
+        }
+    }
+    if (o.png.empty() && o.pdf.empty()) o.tour = true;
+    return true;
 }
 } // namespace
 
 int main(int argc, char **argv)
 {
     QApplication app(argc, argv);
-    std::printf("VOR2 demo: a diagram of boxes\n\n");
+    Options options;
+    if (!parse(argc, argv, options)) return 2;
+    if (options.tour) demo::runTour();
+    if (options.png.empty() && options.pdf.empty()) return 0;
 
-    GLOX::Holder<Scene> scene = Scene::createScene();
-    scene->setBackground(Background(GLOX::Color(1, 1, 1)));
-
-    // Three top-level boxes, each with two children.
-    GLOX::GList<Node> groups;
-    for (int g = 0; g < 3; ++g) {
-        RectNode group = box(0, 0, 100, 100, GLOX::Color(0.8, 0.8, 1.0), "group");
-        group.setPosition({g * 120.0, 0});
-        scene->addNode(group);
-        for (int c = 0; c < 2; ++c) {
-            RectNode child = box(10 + c * 45.0, 10, 35, 35, GLOX::Color(1.0, 0.6, 0.2), c ? "port" : "label");
-            child.setParent(group);
+    GLOX::Holder<VOR2::Scene> scene = VOR2::Scene::createScene();
+    demo::buildGallery(*scene);
+    QImage picture = demo::renderAtScale(*scene, options.scale, 10);
+    if (!options.png.empty()) {
+        if (!picture.save(QString::fromStdString(options.png))) {
+            std::fprintf(stderr, "cannot write %s\n", options.png.c_str());
+            return 1;
         }
-        groups.append(group);
+        std::printf("\nGallery written to %s (%dx%d pixels, %d nodes)\n", options.png.c_str(), picture.width(),
+                    picture.height(), int(scene->getAllNodes().size()));
     }
-    list("Top-level nodes after building", scene->getTopLevelNodes());
-    std::printf("All nodes: %d; nodes alive: %d\n\n", int(scene->getAllNodes().size()),
-                Diagnostics::intValue("Node:Node instance count"));
-
-    // Z-order: raise the first group above the others, then sink the last.
-    groups[0].toTop();
-    groups[2].toBottom();
-    std::printf("After toTop(first) and toBottom(last):\n");
-    for (Node const &g : groups) std::printf("    %s\n", describe(g).c_str());
-
-    // Overlap two groups and ask what lies where.
-    groups[1].setPosition({60, 20});
-    std::printf("\nSecond group moved to (60, 20).\n");
-    std::printf("Node at (80, 40): %s\n", describe(scene->getNodeAt({80, 40})).c_str());
-    list("Nodes at (80, 40), topmost first", scene->getNodesAtScenePos({80, 40}));
-    list("Nodes wholly inside (0, 0, 110, 110)", scene->getNodesWithinRect({0, 0, 110, 110}));
-
-    // Tags: a scene search finds descendants, never top-level nodes.
-    list("\nNodes tagged 'port'", scene->getNodesWithTag("port"));
-    list("Nodes tagged 'group' (top-level only, so none)", scene->getNodesWithTag("group"));
-
-    // Reparent a port into another group, then remove a whole group.
-    Node port = groups[2].getChildrenWithTag("port").first();
-    port.setParent(groups[0]);
-    std::printf("\nMoved a port into the first group: it now has %d children.\n",
-                int(groups[0].getChildren().size()));
-    Node removed = scene->removeNode(groups[1]);
-    std::printf("Removed the second group: the scene holds %d nodes; the removed group keeps %d children.\n",
-                int(scene->getAllNodes().size()), int(removed.getChildren().size()));
-
-    // Errors are values of the catalogue, and nothing changes on a refusal.
-    try {
-        groups[0].setParent(port);
-    } catch (Error const &e) {
-        std::printf("\nRefused: %s (%s)\n", e.text().c_str(), e.catalogueId().c_str());
+    if (!options.pdf.empty()) {
+        QPrinter printer(QPrinter::HighResolution);
+        printer.setOutputFormat(QPrinter::PdfFormat);
+        printer.setOutputFileName(QString::fromStdString(options.pdf));
+        scene->render(printer, {}, {});
+        std::printf("Gallery printed to %s\n", options.pdf.c_str());
     }
-
-    groups.clear();
-    port = Node();
-    removed = Node();
-    scene.reset();
-    std::printf("\nScene destroyed; nodes alive: %d\n", Diagnostics::intValue("Node:Node instance count"));
-    return 0;
+    if (!options.show) return 0;
+    if (QGuiApplication::platformName() == "offscreen" || QGuiApplication::platformName() == "minimal") {
+        std::printf("No display: open the PNG above to see the gallery.\n");
+        return 0;
+    }
+    QScrollArea window;
+    QLabel *label = new QLabel;
+    label->setPixmap(QPixmap::fromImage(picture));
+    window.setWidget(label);
+    window.setWindowTitle("VOR2 gallery");
+    window.resize(std::min(picture.width() + 20, 1400), std::min(picture.height() + 20, 900));
+    window.show();
+    return app.exec();
 }
