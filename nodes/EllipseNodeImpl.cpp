@@ -1,0 +1,42 @@
+#include "nodes/EllipseNodeImpl.h"
+
+#include "nodes/MaskStyle.h"
+#include "nodes/OutlineStroker.h"
+#include "nodes/StylePainter.h"
+
+namespace VOR2 {
+
+char const *const EllipseNodeImpl::TYPE_NAME = "VOR2.EllipseNode";
+
+bool EllipseNodeImpl::isa(char const *typeName) const
+{
+    return typeNameMatches(typeName, TYPE_NAME) || NodeImpl::isa(typeName);
+}
+
+QPainterPath EllipseNodeImpl::ellipsePath() const
+{
+    QPainterPath path;
+    path.addEllipse(rect());
+    return path;
+}
+
+Bounds EllipseNodeImpl::computeBounds() { return Bounds(ellipsePath()); }
+
+Bounds EllipseNodeImpl::computeStrokedOutline(double scale)
+{
+    return Bounds(strokedArea(ellipsePath(), getDrawStyle().stroke(), scale, StrokerShape::Default));
+}
+
+void EllipseNodeImpl::paintContents(QPainter *painter, QStyleOptionGraphicsItem const *, QWidget *)
+{
+    applyDrawStyle(painter, getDrawStyle(), paintScale(painter));
+    painter->drawEllipse(rect());
+}
+
+void EllipseNodeImpl::paintMask(QPainter *painter, double scale, GLOX::GLRect<double> const &)
+{
+    applyMaskStyle(painter, getDrawStyle(), scale);
+    painter->drawEllipse(rect());
+}
+
+} // namespace VOR2

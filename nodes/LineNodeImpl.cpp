@@ -1,0 +1,118 @@
+#include "nodes/LineNodeImpl.h"
+
+#include <GlobalViewerInfo>
+
+#include "nodes/OutlineStroker.h"
+#include "nodes/StylePainter.h"
+
+#include <QPainterPathStroker>
+#include <algorithm>
+#include <cmath>
+
+namespace VOR2 {
+
+char const *const LineNodeImpl::TYPE_NAME = "VOR2.LineNode";
+
+bool LineNodeImpl::isa(char const *typeName) const
+{
+    return typeNameMatches(typeName, TYPE_NAME) || NodeImpl::isa(typeName);
+}
+
+void LineNodeImpl::setStart(QPointF const &start) { setLine(start, m_end); }
+
+void LineNodeImpl::setEnd(QPointF const &end) { setLine(m_start, end); }
+
+void LineNodeImpl::setLine(QPointF const &start, QPointF const &end)
+{
+    prepareItemGeometryChange();
+    m_start = start;
+    m_end = end;
+    notifyGeometryChanged(false);
+    placeStartDecoration();
+    placeEndDecoration();
+}
+
+// Each decoration points outward along the line from its end.
+void LineNodeImpl::placeStartDecoration()
+{
+    if (!m_startDecoration.isValid()) return;
+    m_startDecoration.setPosition(GLOX::toDPoint(m_start));
+    m_startDecoration.setDirection(GLOX::toDPoint(m_start - m_end));
+}
+
+void LineNodeImpl::placeEndDecoration()
+{
+    if (!m_endDecoration.isValid()) return;
+    m_endDecoration.setPosition(GLOX::toDPoint(m_end));
+    m_endDecoration.setDirection(GLOX::toDPoint(m_end - m_start));
+}
+
+void LineNodeImpl::setStartDecoration(LineEndDecoration const &decoration)
+{
+    if (m_startDecoration.isValid()) m_startDecoration.getNode().remove();
+    m_startDecoration = decoration;
+    m_startDecoration.setParent(Node(this));
+    placeStartDecoration();
+}
+
+void LineNodeImpl::setEndDecoration(LineEndDecoration const &decoration)
+{
+    if (m_endDecoration.isValid()) m_endDecoration.getNode().remove();
+    m_endDecoration = decoration;
+    m_endDecoration.setParent(Node(this));
+    placeEndDecoration();
+}
+
+QPainterPath LineNodeImpl::geometricPath() const
+{
+    QPainterPath path;
+    path.moveTo(m_start);
+    path.lineTo(m_end);
+    return path;
+}
+
+double LineNodeImpl::hitTolerance() const { return scene() ? HIT_TOLERANCE : 0.0; }
+
+Bounds LineNodeImpl::computeBounds() { return Bounds(geometricPath()); }
+
+Bounds LineNodeImpl::computeStrokedOutline(double scale)
+{
+    QPainterPath stroke = strokeOutline(geometricPath(), getDrawStyle().stroke(), scale, StrokerShape::FromStroke);
+    return Bounds(stroke.simplified());
+}
+
+Bounds LineNodeImpl::computeHitBounds(double scale)
+{
+    double w = std::max(getDrawStyle().stroke().width(scale), 2 * hitTolerance());
+    QPainterPathStroker stroker;
+    // The whole width is divided by the scale, the tolerance and a stroke
+    // width already in scene units included.
+    stroker.setWidth(w / scale);
+    return Bounds(stroker.createStroke(geometricPath()).simplified());
+}
+
+bool LineNodeImpl::contains(GLOX::GLPoint<double> const &p)
+{
+    double dx = m_end.x() - m_start.x();
+    double dy = m_end.y() - m_start.y();
+    // Distance from the infinite line; NaN or infinite for a line without
+    // length, which the comparison below rejects.
+    double d = std::abs((p.x - m_start.x()) * dy - (p.y - m_start.y()) * dx) / std::sqrt(dx * dx + dy * dy);
+    double w = getDrawStyle().stroke().width(GlobalViewerInfo::instance()->getViewerScale());
+    return w + hitTolerance() > d;
+}
+
+bool LineNodeImpl::contains(QPointF const &p) const
+{
+    return const_cast<LineNodeImpl *>(this)->contains(GLOX::toDPoint(p));
+}
+
+void LineNodeImpl::paintContents(QPainter *painter, QStyleOptionGraphicsItem const *, QWidget *)
+{
+    applyDrawStyle(painter, getDrawStyle(), paintScale(painter));
+    QLineF line(m_start - GLOX::toQPointF(m_startDecoration.getBackoffVector()),
+                m_end - GLOX::toQPointF(m_endDecoration.getBackoffVector()));
+    painter->drawLines(&line, 1);
+}
+
+} // namespace VOR2

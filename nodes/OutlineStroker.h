@@ -1,0 +1,24 @@
+#pragma once
+// The area a stroked outline covers, for the stroked bounds of shapes drawn
+// from a QPainterPath. Widths come from Stroke::width(scale), so a hairline
+// covers one device pixel at every scale.
+
+#include <Stroke>
+
+#include <QPainterPath>
+
+namespace VOR2 {
+
+// Which pen shape the stroker takes: Qt's default cap and join, or those
+// of the stroke.
+enum class StrokerShape { Default, FromStroke };
+
+// The outline of the stroke alone along `path`, as wide as `stroke` at
+// `scale`, whatever its line style.
+QPainterPath strokeOutline(QPainterPath const &path, Stroke const &stroke, double scale, StrokerShape shape);
+
+// What painting `path` with `stroke` at `scale` covers: the path alone when
+// the stroke draws nothing, else the stroke's outline united with the path.
+QPainterPath strokedArea(QPainterPath const &path, Stroke const &stroke, double scale, StrokerShape shape);
+
+} // namespace VOR2

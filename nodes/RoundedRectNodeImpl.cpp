@@ -1,0 +1,70 @@
+#include "nodes/RoundedRectNodeImpl.h"
+
+#include <RoundedRect>
+
+#include "nodes/MaskStyle.h"
+#include "nodes/OutlineStroker.h"
+#include "nodes/StylePainter.h"
+
+namespace VOR2 {
+
+char const *const RoundedRectNodeImpl::TYPE_NAME = "VOR2.RoundedRectNode";
+
+bool RoundedRectNodeImpl::isa(char const *typeName) const
+{
+    return typeNameMatches(typeName, TYPE_NAME) || NodeImpl::isa(typeName);
+}
+
+void RoundedRectNodeImpl::setRect(QRectF const &rect)
+{
+    if (rect.x() == m_rect.x() && rect.y() == m_rect.y() && rect.width() == m_rect.width() &&
+        rect.height() == m_rect.height())
+        return;
+    prepareItemGeometryChange();
+    m_rect = rect;
+    notifyGeometryChanged(false);
+}
+
+void RoundedRectNodeImpl::setRadius(double radius)
+{
+    if (!(radius > 0.0) || radius == m_radius) return;
+    prepareItemGeometryChange();
+    m_radius = radius;
+    notifyGeometryChanged(false);
+}
+
+QPainterPath RoundedRectNodeImpl::outlinePath() const
+{
+    QPainterPath path;
+    path.addRoundedRect(m_rect, m_radius, m_radius, Qt::AbsoluteSize);
+    return path;
+}
+
+Bounds RoundedRectNodeImpl::computeBounds()
+{
+    return Bounds(RoundedRect(GLOX::toDRect(m_rect), m_radius, m_radius));
+}
+
+Bounds RoundedRectNodeImpl::computeStrokedOutline(double scale)
+{
+    return Bounds(strokedArea(outlinePath(), getDrawStyle().stroke(), scale, StrokerShape::Default));
+}
+
+void RoundedRectNodeImpl::draw(QPainter *painter) const
+{
+    painter->drawRoundedRect(m_rect, m_radius, m_radius, Qt::AbsoluteSize);
+}
+
+void RoundedRectNodeImpl::paintContents(QPainter *painter, QStyleOptionGraphicsItem const *, QWidget *)
+{
+    applyDrawStyle(painter, getDrawStyle(), paintScale(painter));
+    draw(painter);
+}
+
+void RoundedRectNodeImpl::paintMask(QPainter *painter, double scale, GLOX::GLRect<double> const &)
+{
+    applyMaskStyle(painter, getDrawStyle(), scale);
+    draw(painter);
+}
+
+} // namespace VOR2

@@ -1,0 +1,94 @@
+// What the primitive nodes put on pixels at three zoom levels, against
+// reviewed reference images, and the one-device-pixel hairline.
+
+#include <EllipseNode>
+#include <LineNode>
+#include <RoundedRectNode>
+#include <ShapeNode>
+
+#include "nodes/PaintNode.h"
+#include "support/ReferenceImage.h"
+
+#include <QString>
+#include <gtest/gtest.h>
+
+using namespace VOR2;
+using namespace VOR2::test;
+using P = GLOX::GLPoint<double>;
+using R = GLOX::GLRect<double>;
+
+namespace {
+// Every scene below fits in 24 by 24 units.
+constexpr int SIDE = 24;
+double const SCALES[] = {0.5, 1.0, 4.0};
+
+DrawStyle styleOf(GLOX::Color fill, GLOX::Color stroke, double width, StrokeJoinStyle join = MiterJoin,
+                  StrokeStyle line = SolidLine)
+{
+    return DrawStyle(Stroke(stroke, width, line, FlatCap, join), Fill(fill), true);
+}
+
+void expectMatchesAtEveryScale(Node const &node, std::string const &kind)
+{
+    for (double scale : SCALES) {
+        int side = int(SIDE * scale);
+        std::string name = kind + "_scale" + QString::number(scale).toStdString();
+        EXPECT_TRUE(matchesReference(paintNodeAtScale(node, scale, side, side), name, 2));
+    }
+}
+
+GLOX::Shape ringedTriangle()
+{
+    QPainterPath path;
+    path.moveTo(3, 21);
+    path.lineTo(12, 3);
+    path.lineTo(21, 21);
+    path.closeSubpath();
+    path.addEllipse(QPointF(12, 15), 3, 3); // a hole by the odd-even rule
+    return GLOX::Shape(path);
+}
+} // namespace
+
+TEST(PrimitiveRendering, RoundedRectangle)
+{
+    RoundedRectNode n(R(3, 4, 18, 15), 5.0);
+    n.setDrawStyle(styleOf(GLOX::Color(1, 0.6, 0.2), GLOX::Color(0.1, 0.2, 0.8), 2.0));
+    expectMatchesAtEveryScale(n, "roundedrect");
+}
+
+TEST(PrimitiveRendering, Ellipse)
+{
+    EllipseNode n(Ellipse(R(2, 5, 20, 14)));
+    n.setDrawStyle(styleOf(GLOX::Color(0.3, 0.8, 0.4), GLOX::Color(0.2, 0.2, 0.2), 1.5));
+    expectMatchesAtEveryScale(n, "ellipse");
+}
+
+TEST(PrimitiveRendering, Shape)
+{
+    ShapeNode n(ringedTriangle());
+    n.setDrawStyle(styleOf(GLOX::Color(0.6, 0.3, 0.8), GLOX::Color(0, 0, 0), 1.5, RoundJoin));
+    expectMatchesAtEveryScale(n, "shape");
+}
+
+TEST(PrimitiveRendering, DashedLine)
+{
+    LineNode n(P(3, 21), P(21, 3));
+    n.setDrawStyle(styleOf(GLOX::Color(), GLOX::Color(0.8, 0.1, 0.1), 2.0, MiterJoin, DashLine));
+    expectMatchesAtEveryScale(n, "line");
+}
+
+TEST(PrimitiveRendering, HairlineIsOneOpaqueDevicePixelAtEveryScale)
+{
+    // Lines through the centres of device row 10 and column 10.
+    for (double scale : SCALES) {
+        double centre = 10.5 / scale, from = 2 / scale, to = 22 / scale;
+        for (bool horizontal : {true, false}) {
+            LineNode n = horizontal ? LineNode(P(from, centre), P(to, centre)) : LineNode(P(centre, from), P(centre, to));
+            QImage image = paintNodeAtScale(n, scale, SIDE, SIDE);
+            int across = horizontal ? paintedAlong(image, {12, 0}, {0, 1}) : paintedAlong(image, {0, 12}, {1, 0});
+            QRgb at = horizontal ? image.pixel(12, 10) : image.pixel(10, 12);
+            EXPECT_EQ(across, 1) << "scale " << scale << (horizontal ? " horizontal" : " vertical");
+            EXPECT_EQ(qAlpha(at), 255) << "scale " << scale;
+        }
+    }
+}
