@@ -102,11 +102,6 @@ bool LineNodeImpl::contains(GLOX::GLPoint<double> const &p)
     return w + hitTolerance() > d;
 }
 
-bool LineNodeImpl::contains(QPointF const &p) const
-{
-    return const_cast<LineNodeImpl *>(this)->contains(GLOX::toDPoint(p));
-}
-
 void LineNodeImpl::paintContents(QPainter *painter, QStyleOptionGraphicsItem const *, QWidget *)
 {
     applyDrawStyle(painter, getDrawStyle(), paintScale(painter));

@@ -52,8 +52,7 @@ public:
     // True when `p` lies closer to the line than the stroke width at the
     // viewer scale plus the tolerance. A line without length hits nothing.
     bool contains(GLOX::GLPoint<double> const &p) override;
-    // Qt's point test goes through the line's own.
-    bool contains(QPointF const &p) const override;
+    using TypedNodeImpl<QGraphicsItem>::contains;
     // The segment, each end drawn short by its decoration's backoff.
     void paintContents(QPainter *painter, QStyleOptionGraphicsItem const *option, QWidget *widget) override;
 

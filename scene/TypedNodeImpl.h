@@ -36,7 +36,11 @@ public:
     int type() const override { return Type; }
     QRectF boundingRect() const override { return mutableSelf()->itemBoundingRect(); }
     QPainterPath shape() const override { return mutableSelf()->itemShape(); }
-    bool contains(QPointF const &p) const override { return mutableSelf()->NodeImpl::contains(GLOX::toDPoint(p)); }
+    // Through the node's virtual point test, so that subclasses answer Qt.
+    bool contains(QPointF const &p) const override
+    {
+        return static_cast<NodeImpl *>(mutableSelf())->contains(GLOX::toDPoint(p));
+    }
     bool collidesWithPath(QPainterPath const &path, Qt::ItemSelectionMode) const override
     {
         return mutableSelf()->itemCollidesWithPath(path);
