@@ -3,6 +3,7 @@
 
 #include <EllipseNode>
 #include <LineNode>
+#include <RectNode>
 #include <RoundedRectNode>
 #include <ShapeNode>
 
@@ -48,6 +49,13 @@ GLOX::Shape ringedTriangle()
     return GLOX::Shape(path);
 }
 } // namespace
+
+TEST(PrimitiveRendering, RectangleAliasedWithAThickDottedStroke)
+{
+    RectNode n(R(4, 4, 16, 12));
+    n.setDrawStyle(DrawStyle(Stroke(GLOX::Color(0.1, 0.1, 0.5), 2.0, DotLine), Fill(GLOX::Color(1, 0.9, 0.3)), false));
+    expectMatchesAtEveryScale(n, "rect");
+}
 
 TEST(PrimitiveRendering, RoundedRectangle)
 {
