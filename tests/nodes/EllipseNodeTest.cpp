@@ -4,7 +4,7 @@
 #include <EllipseNode>
 
 #include "nodes/EllipseNodeImpl.h"
-#include "nodes/PaintNode.h"
+#include "support/PaintNode.h"
 
 #include <gtest/gtest.h>
 

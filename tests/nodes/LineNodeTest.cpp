@@ -7,7 +7,7 @@
 #include <Scene>
 
 #include "nodes/LineNodeImpl.h"
-#include "nodes/PaintNode.h"
+#include "support/PaintNode.h"
 #include "support/SceneFixture.h"
 
 #include <gtest/gtest.h>

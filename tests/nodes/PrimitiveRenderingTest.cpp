@@ -7,7 +7,7 @@
 #include <RoundedRectNode>
 #include <ShapeNode>
 
-#include "nodes/PaintNode.h"
+#include "support/PaintNode.h"
 #include "support/ReferenceImage.h"
 
 #include <QString>

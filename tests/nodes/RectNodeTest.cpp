@@ -6,6 +6,7 @@
 
 #include "nodes/RectNodeImpl.h"
 #include "nodes/StylePainter.h"
+#include "support/PaintNode.h"
 #include "support/PixelCompare.h"
 
 #include <QPainter>
@@ -20,16 +21,6 @@ Stroke strokeOf(double width, StrokeStyle style = SolidLine)
     return Stroke(GLOX::Color(), width, style);
 }
 
-// Paints the node as a view at `scale` would, into a w by h image.
-QImage paintAtScale(RectNode const &node, double scale, int w, int h)
-{
-    QImage image = transparentImage(w, h);
-    QPainter painter(&image);
-    painter.scale(scale, scale);
-    QStyleOptionGraphicsItem option;
-    node.getImpl()->getGraphicsItem()->paint(&painter, &option, nullptr);
-    return image;
-}
 } // namespace
 
 TEST(StylePainter, ThinLinesAreThoseBelowOneDevicePixel)
@@ -91,7 +82,7 @@ TEST(RectNode, PaintsItsFillAndAOnePixelHairlineAtEveryScale)
     std::string why;
     for (double scale : {1.0, 4.0}) {
         int side = int(12 * scale);
-        QImage image = paintAtScale(n, scale, side, side);
+        QImage image = paintNodeAtScale(n, scale, side, side);
         int inner = int(5 * scale), edge = int(2 * scale);
         EXPECT_TRUE(pixelMatches(image, inner, inner, QColor(255, 0, 0), 0, &why)) << why;
         EXPECT_TRUE(pixelMatches(image, edge, inner, QColor(0, 0, 255), 0, &why)) << "scale " << scale << ": " << why;

@@ -3,7 +3,7 @@
 
 #include <ShapeNode>
 
-#include "nodes/PaintNode.h"
+#include "support/PaintNode.h"
 #include "nodes/ShapeNodeImpl.h"
 
 #include <gtest/gtest.h>
