@@ -38,8 +38,11 @@ void ImageNodeImpl::setSource(GLOX::Holder<Image> const &image)
 {
     if (!image) return;
     std::string source = customSourceFor(image.get());
-    if (source == m_source && !isNullImage()) return;
+    // The key is the Image's address, which a later Image may reuse: its
+    // serial tells a new Image from the one shown.
+    if (source == m_source && !isNullImage() && image->serial() == m_clientImageSerial) return;
     auto &manager = GLOX::ImageCompositor::Manager::instance();
+    m_clientImageSerial = image->serial();
     showImage(source, manager.registerImage(source, *image->asQImage()));
 }
 

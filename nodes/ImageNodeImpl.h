@@ -63,6 +63,7 @@ private:
     GLOX::GLPoint<double> m_size;
     std::string m_source;
     GLOX::Holder<GLOX::ImageCompositor::Node> m_imageNode;
+    unsigned long long m_clientImageSerial = 0; // of the client Image shown
 };
 
 } // namespace VOR2

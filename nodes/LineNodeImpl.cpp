@@ -53,6 +53,7 @@ void LineNodeImpl::setStartDecoration(LineEndDecoration const &decoration)
     m_startDecoration = decoration;
     m_startDecoration.setParent(Node(this));
     placeStartDecoration();
+    notifyRepaint(); // the drawn line now stops short by the new backoff
 }
 
 void LineNodeImpl::setEndDecoration(LineEndDecoration const &decoration)
@@ -61,6 +62,7 @@ void LineNodeImpl::setEndDecoration(LineEndDecoration const &decoration)
     m_endDecoration = decoration;
     m_endDecoration.setParent(Node(this));
     placeEndDecoration();
+    notifyRepaint();
 }
 
 QPainterPath LineNodeImpl::geometricPath() const

@@ -235,10 +235,15 @@ Bounds const &NodeImpl::getBounds()
 
 NodeViewCache &NodeImpl::currentViewCache()
 {
-    void const *key = GlobalViewerInfo::instance()->getKey();
-    if (NodeViewCache *entry = m_viewCache.object(key)) return *entry;
-    auto *entry = new NodeViewCache;
-    m_viewCache.insert(key, entry, 1);
+    GlobalViewerInfo const *view = GlobalViewerInfo::instance();
+    NodeViewCache *entry = m_viewCache.object(view->getKey());
+    if (!entry) {
+        entry = new NodeViewCache;
+        m_viewCache.insert(view->getKey(), entry, 1);
+    } else if (entry->scale != view->getViewerScale()) {
+        *entry = NodeViewCache(); // filled at another scale: start over
+    }
+    entry->scale = view->getViewerScale();
     return *entry;
 }
 

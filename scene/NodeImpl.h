@@ -98,6 +98,9 @@ public:
     bool isOffscreenDirty() const { return m_offscreenDirty; }
     void setOffscreenDirty(bool dirty) { m_offscreenDirty = dirty; }
 
+    // Drops what this node keeps for the view `key`.
+    void forgetView(void const *key) { m_viewCache.remove(key); }
+
     // --- Change reporting -----------------------------------------------
     void invalidateCaches();
     void notifyRepaint();

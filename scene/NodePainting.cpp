@@ -21,6 +21,7 @@ char const *const OFFSCREEN_REPAINTS = "Scene:Node offscreen repaint count";
 // one device pixel, and a painter on it set up in the bounds' coordinates.
 QImage borderedImage(QRectF const &bounds, double lod)
 {
+    // Geometry is never normalised, so bounds may run left or up.
     QImage image(int(std::ceil(bounds.width() * lod)) + 2, int(std::ceil(bounds.height() * lod)) + 2,
                  QImage::Format_ARGB32_Premultiplied);
     image.fill(0);
@@ -50,19 +51,24 @@ void NodeImpl::paintNode(QPainter *painter, QStyleOptionGraphicsItem const *opti
     }
     double lod = paintScale(painter);
     double s = 1.0 / lod; // one device pixel in scene units
-    QRectF bounds = GLOX::toQRectF(getCachedMaximumBounds(lod).boundingRect());
+    QRectF bounds = GLOX::toQRectF(getCachedMaximumBounds(lod).boundingRect()).normalized();
     // What can show: the exposed part as Qt tells it, cut to the painter's
     // clip (a render of part of the scene clips to its target).
     QRectF visible = bounds.intersected(option->exposedRect);
     if (painter->hasClipping()) visible &= painter->clipBoundingRect();
     // Only a whole exposure rebuilds the image: a partly exposed dirty node
     // keeps the image it has, or paints directly.
-    if (m_offscreenDirty && bounds.width() - visible.width() < s && bounds.height() - visible.height() < s) {
-        drawOffscreenImage(bounds, lod);
+    // An image of another scale (a render at its own scale under this view's
+    // key) is as good as none; so is none at all for this view.
+    OffscreenPixmap const *current = currentViewCache().offscreen.get();
+    bool stale = m_offscreenDirty || !current || current->scale() != lod;
+    if (stale && bounds.width() - visible.width() < s && bounds.height() - visible.height() < s) {
+        // Cleared first: a change reported while painting dirties it again.
         m_offscreenDirty = false;
+        drawOffscreenImage(bounds, lod);
     }
     NodeViewCache &entry = currentViewCache();
-    if (!entry.offscreen) {
+    if (!entry.offscreen || entry.offscreen->scale() != lod) {
         paintContents(painter, option, widget);
         return;
     }
@@ -81,7 +87,7 @@ void NodeImpl::drawOffscreenImage(QRectF const &bounds, double lod)
         option.exposedRect = bounds;
         paintContents(&painter, &option, nullptr);
     }
-    currentViewCache().offscreen = std::make_unique<OffscreenPixmap>(std::move(image));
+    currentViewCache().offscreen = std::make_unique<OffscreenPixmap>(std::move(image), lod);
 }
 
 void NodeImpl::paintChildren(QPainter *painter, QStyleOptionGraphicsItem const *option, QWidget *widget)
@@ -137,7 +143,7 @@ QImage NodeImpl::renderToImage(CacheType type, double scale)
         };
         unite(this);
     }
-    QRectF rect = GLOX::toQRectF(bounds.boundingRect());
+    QRectF rect = GLOX::toQRectF(bounds.boundingRect()).normalized();
     QImage image = borderedImage(rect, scale);
     QPainter painter(&image);
     setUpBorderedPainter(painter, rect, scale, m_drawStyle.isAntiAliased());

@@ -1,8 +1,9 @@
 #pragma once
 // NodeViewCache: what a node computes per view, because stroke widths
-// follow the view's scale, and its offscreen image at that view's scale. A Bounds whose rectangle is invalid has not
-// been computed yet. The scale is not part of the key: a view that changes
-// its scale must use a new key or invalidate the node.
+// follow the view's scale, and its offscreen image at that view's scale.
+// Entries are keyed by view; an entry filled at another scale than the
+// view's present one counts as empty. A Bounds whose rectangle is invalid
+// has not been computed yet.
 
 #include <Bounds>
 
@@ -13,6 +14,8 @@
 namespace VOR2 {
 
 struct NodeViewCache {
+    // The viewer scale the entry was filled at; another scale empties it.
+    double scale = 0.0;
     Bounds maximumBounds;
     Bounds strokedOutline;
     Bounds hitBounds;

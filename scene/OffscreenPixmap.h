@@ -11,13 +11,16 @@ namespace VOR2 {
 
 class OffscreenPixmap {
 public:
-    explicit OffscreenPixmap(QImage image) : m_image(std::move(image)) {}
+    OffscreenPixmap(QImage image, double scale) : m_image(std::move(image)), m_scale(scale) {}
     virtual ~OffscreenPixmap() = default;
 
     QImage const &image() const { return m_image; }
+    // The device pixels per scene unit the image was painted at.
+    double scale() const { return m_scale; }
 
 private:
     QImage m_image;
+    double m_scale;
 };
 
 } // namespace VOR2

@@ -2,12 +2,15 @@
 
 #include <Scene>
 
+#include "nodes/StylePainter.h"
 #include "scene/NodeImpl.h"
+#include "scene/RenderViewScope.h"
 #include "scene/ScenePrivate.h"
 
 #include <QImage>
 #include <QPainter>
 #include <QPrinter>
+#include <algorithm>
 #include <cmath>
 
 namespace VOR2 {
@@ -19,6 +22,18 @@ QRectF sourceOrWholeScene(ScenePrivate *d, GLOX::GLRect<double> const &source)
 }
 
 QColor backgroundColor(ScenePrivate *d) { return GLOX::toQColor(d->getBackground().getColor()); }
+
+// Renders `from` into `target` (the whole device when empty) of `painter`
+// as a view of its own, at the scale the render will have.
+void renderAsOwnView(ScenePrivate *d, QPainter &painter, QRectF target, QRectF const &from)
+{
+    if (target.isEmpty()) target = QRectF(0, 0, painter.device()->width(), painter.device()->height());
+    double scale = paintScale(&painter);
+    if (from.width() > 0 && from.height() > 0)
+        scale *= std::min(target.width() / from.width(), target.height() / from.height());
+    RenderViewScope view(scale);
+    d->render(&painter, target, from, Qt::KeepAspectRatio);
+}
 } // namespace
 
 GLOX::Holder<Image> Scene::render(int margin) const { return render(margin, GLOX::GLRect<double>()); }
@@ -35,7 +50,7 @@ GLOX::Holder<Image> Scene::render(int margin, GLOX::GLRect<double> const &source
         QRectF widened(from.x() - margin, from.y() - margin, width, height);
         QPainter painter(&image);
         painter.fillRect(target, backgroundColor(d));
-        d->render(&painter, target, widened, Qt::KeepAspectRatio);
+        renderAsOwnView(d, painter, target, widened);
     }
     return Image::fromQImage(image);
 }
@@ -46,7 +61,7 @@ void Scene::render(QImage &image, GLOX::GLRect<double> const &source, GLOX::GLRe
     image.fill(0xffffffff);
     QPainter painter(&image);
     painter.fillRect(image.rect(), backgroundColor(d));
-    d->render(&painter, GLOX::toQRectF(target), from, Qt::KeepAspectRatio);
+    renderAsOwnView(d, painter, GLOX::toQRectF(target), from);
 }
 
 void Scene::render(QPrinter &printer, GLOX::GLRect<double> const &source, GLOX::GLRect<double> const &target) const
@@ -57,7 +72,7 @@ void Scene::render(QPrinter &printer, GLOX::GLRect<double> const &source, GLOX::
 
 void Scene::render(QPainter &painter, GLOX::GLRect<double> const &source, GLOX::GLRect<double> const &target) const
 {
-    d->render(&painter, GLOX::toQRectF(target), sourceOrWholeScene(d, source), Qt::KeepAspectRatio);
+    renderAsOwnView(d, painter, GLOX::toQRectF(target), sourceOrWholeScene(d, source));
 }
 
 GLOX::GLRect<double> Scene::getBounds() const { return d->getNodesBounds(); }
@@ -73,7 +88,9 @@ bool Scene::getTrackingPerformance() const { return d->getTrackingPerformance();
 
 GLOX::Holder<Image> Node::render(CacheType type, double scale) const
 {
-    return Image::fromQImage(getValidImpl()->renderToImage(type, scale));
+    NodeImpl *impl = getValidImpl();
+    RenderViewScope view(scale);
+    return Image::fromQImage(impl->renderToImage(type, scale));
 }
 
 } // namespace VOR2

@@ -1,12 +1,24 @@
 #include <Image>
 
 #include <QImage>
+#include <atomic>
 
 namespace VOR2 {
 
 class ImagePrivate {
 public:
+    ImagePrivate() : serial(nextSerial()) {}
+    ImagePrivate(ImagePrivate const &other) : image(other.image), serial(nextSerial()) {}
+
     QImage image;
+    unsigned long long const serial;
+
+private:
+    static unsigned long long nextSerial()
+    {
+        static std::atomic<unsigned long long> counter{0};
+        return ++counter;
+    }
 };
 
 Image::Image() : d(new ImagePrivate) {}
@@ -29,6 +41,8 @@ GLOX::Holder<Image> Image::fromQImage(QImage const *image)
     if (image) result->d_func()->image = *image;
     return result;
 }
+
+unsigned long long Image::serial() const { return d_func()->serial; }
 
 bool Image::isNull() const { return d_func()->image.isNull(); }
 int Image::width() const { return d_func()->image.width(); }

@@ -68,7 +68,10 @@ Manager &Manager::instance()
 Holder<Node> Manager::nodeForKey(std::string const &key)
 {
     auto found = m_nodes.find(key);
-    if (found != m_nodes.end()) return Holder<Node>(found->second);
+    // A node that has nothing to show (its file was missing or unreadable)
+    // is not handed out again: the file may be there now.
+    bool dead = found != m_nodes.end() && !found->second->hasImage() && !found->second->hasSource();
+    if (found != m_nodes.end() && !(dead && !isCustomKey(key))) return Holder<Node>(found->second);
     QString path;
     if (!key.empty() && !isCustomKey(key)) {
         QFileInfo info(QString::fromStdString(key));
@@ -81,7 +84,7 @@ Holder<Node> Manager::nodeForKey(std::string const &key)
 
 Holder<Node> Manager::registerImage(std::string const &key, QImage const &image)
 {
-    Node *node = new Node(key, QString(), image);
+    Node *node = new Node(key, QString(), drawableImage(image));
     m_nodes[key] = node;
     return Holder<Node>(node);
 }
