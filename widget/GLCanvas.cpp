@@ -1,0 +1,91 @@
+#include <GLCanvas>
+#include <Scene>
+
+#include "widget/GLCanvasPrivate.h"
+#include "widget/ViewGeometry.h"
+
+namespace VOR2 {
+
+GLCanvas::GLCanvas() : d(std::make_unique<GLCanvasPrivate>(this)) {}
+
+GLCanvas::~GLCanvas() = default;
+
+LayerStack &GLCanvas::getLayerStack() { return d->layerStack; }
+
+SceneServer &GLCanvas::getSceneServer() { return d->server; }
+
+QWidget *GLCanvas::getWidget() const { return d->widget; }
+
+Scene *GLCanvas::getScene() const
+{
+    Layer *base = d->layerStack.getLayer(LayerStack::baseLayerId());
+    return base ? base->getScene() : nullptr;
+}
+
+void GLCanvas::setScene(Scene *scene)
+{
+    if (Layer *base = d->layerStack.getLayer(LayerStack::baseLayerId()))
+        d->layerStack.removeLayer(base->getZValue());
+    if (scene)
+        d->layerStack.insertLayer(LayerStack::baseLayerIdx(),
+                                  GLOX::Holder<Layer>(new Layer(scene, LayerStack::baseLayerId())));
+}
+
+ViewInfo GLCanvas::getViewInfo() const { return d->server.getViewInfo(); }
+
+GLCanvas::Rect GLCanvas::getMargins() const { return d->server.getMargins(); }
+void GLCanvas::setMargins(Rect const &margins) { d->server.setMargins(margins); }
+
+GLCanvas::Point GLCanvas::getViewExtents() const
+{
+    ViewInfo v = getViewInfo();
+    return {v.viewWidth, v.viewHeight};
+}
+
+GLCanvas::Rect GLCanvas::getSceneRectInView() const { return view::visibleSceneRect(getViewInfo()); }
+GLCanvas::Rect GLCanvas::getSceneRect() const { return getViewInfo().sceneRect; }
+double GLCanvas::getScale() const { return getViewInfo().scale; }
+
+GLCanvas::Rect GLCanvas::viewRectToSceneRect(Rect const &r) const { return view::viewToScene(getViewInfo(), r); }
+GLCanvas::Rect GLCanvas::sceneRectToViewRect(Rect const &r) const { return view::sceneToView(getViewInfo(), r); }
+GLCanvas::Point GLCanvas::viewPointToScenePoint(Point const &p) const { return view::viewToScene(getViewInfo(), p); }
+GLCanvas::Point GLCanvas::scenePointToViewPoint(Point const &p) const { return view::sceneToView(getViewInfo(), p); }
+
+void GLCanvas::setMarquee(Rect const &rect) { d->server.setMarquee(rect); }
+
+void GLCanvas::setScale(double scale) { d->post(view::setScale(getViewInfo(), scale)); }
+
+void GLCanvas::setScaleAroundScenePoint(double scale, Point const &p)
+{
+    d->post(view::setScaleAroundScenePoint(getViewInfo(), scale, p));
+}
+
+void GLCanvas::showSceneRect(Rect const &rect) { d->post(view::showSceneRect(getViewInfo(), rect)); }
+
+void GLCanvas::showScenePointAtViewPointAtScale(Point const &scenePoint, Point const &viewPoint, double scale)
+{
+    d->post(view::showScenePointAtViewPoint(getViewInfo(), scenePoint, viewPoint, scale));
+}
+
+void GLCanvas::translateScenePointToViewPoint(Point const &scenePoint, Point const &viewPoint)
+{
+    ViewInfo v = getViewInfo();
+    d->post(view::showScenePointAtViewPoint(v, scenePoint, viewPoint, v.scale));
+}
+
+void GLCanvas::translate(double dx, double dy) { d->post(view::translate(getViewInfo(), dx, dy)); }
+
+void GLCanvas::setInitialSceneOriginAndScale(Point const &origin, double scale)
+{
+    ViewInfo v = getViewInfo();
+    double w = v.viewWidth < 0 || v.viewHeight < 0 ? 1.0 : v.viewWidth;
+    double h = v.viewWidth < 0 || v.viewHeight < 0 ? 1.0 : v.viewHeight;
+    d->server.setPendingViewRequest({scale, origin.x, origin.y, w, h});
+    d->server.processPendingViewRequest(); // at once, on this thread
+}
+
+void GLCanvas::zoomToSceneRect() { d->post(view::zoomToSceneRect(getViewInfo())); }
+
+void GLCanvas::zoomToActualSize() { d->post(view::zoomToActualSize(getViewInfo())); }
+
+} // namespace VOR2

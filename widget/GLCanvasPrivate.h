@@ -1,0 +1,42 @@
+#pragma once
+// GLCanvasPrivate: the host side of a canvas: its layer stack, its scene
+// server, the signal that wakes the server for a posted view request, and
+// the widget made for it on the GUI thread.
+
+#include <GLCanvas>
+#include <LayerStack>
+#include <ViewRequest>
+
+#include "GLUV/Emitter.h"
+#include "GLUV/Listener.h"
+#include "widget/SceneServer.h"
+
+#include <optional>
+
+class QWidget;
+
+namespace VOR2 {
+
+class GLCanvasPrivate : public GLUV::Listener {
+public:
+    explicit GLCanvasPrivate(GLCanvas *canvas);
+    ~GLCanvasPrivate() override;
+
+    // Stores the request as pending and wakes the server on the host
+    // thread with a queued signal; nothing for an empty optional.
+    void post(std::optional<ViewRequest> const &request);
+
+    GLUV::Emitter<void (*)()> viewRequestPosted{GLUV::SendAuto};
+    GLCanvas *canvas;
+    LayerStack layerStack;
+    SceneServer server; // after the stack: it detaches from it first
+    QWidget *widget = nullptr; // GUI thread object
+
+private:
+    void onLayerAdded(int index);
+    void onLayerRemoved(int index);
+    // The topmost layer's tool override cursor, or none, on the widget.
+    void updateCursor();
+};
+
+} // namespace VOR2
