@@ -1,0 +1,24 @@
+#pragma once
+// GLServices::TarvoTimerService: the host's service that makes timers
+// delivered on the host thread. The current implementation is found through
+// GLService<TarvoTimerService>::get().
+
+#include "GLServices/TarvoTimer.h"
+
+#include <memory>
+
+namespace GLServices {
+
+class TarvoTimerService {
+public:
+    TarvoTimerService() = default;
+    TarvoTimerService(TarvoTimerService const &) = delete;
+    TarvoTimerService &operator=(TarvoTimerService const &) = delete;
+    virtual ~TarvoTimerService() = default;
+
+    // Host thread: a new, stopped timer. It ticks only while the service
+    // that made it lives; after that its calls do nothing.
+    virtual std::shared_ptr<TarvoTimer> createTimer() = 0;
+};
+
+} // namespace GLServices

@@ -1,0 +1,50 @@
+#include "widget/HostRuntime.h"
+
+#include "GLBridge/Bridge.h"
+#include "GLServices/HostRunLoop.h"
+#include "ut/Assert.h"
+#include "widget/VOREventDispatcher.h"
+
+#include <atomic>
+
+namespace VOR2 {
+
+namespace {
+std::atomic<GLServices::HostRunLoop *> s_loop{nullptr};
+}
+
+void HostRuntime::start()
+{
+    ut_assert(!s_loop);
+    bridge().start();
+    s_loop = new GLServices::HostRunLoop;
+    VOREventDispatcher::install();
+}
+
+void HostRuntime::stop()
+{
+    GLServices::HostRunLoop *loop = s_loop;
+    if (!loop) return;
+    bridge().stop();
+    s_loop = nullptr;
+    delete loop;
+}
+
+bool HostRuntime::isRunning()
+{
+    return s_loop != nullptr;
+}
+
+GLServices::HostRunLoop &HostRuntime::loop()
+{
+    GLServices::HostRunLoop *loop = s_loop;
+    ut_assert(loop);
+    return *loop;
+}
+
+GLBridge::Bridge &HostRuntime::bridge()
+{
+    return *GLBridge::getBridge("qt");
+}
+
+} // namespace VOR2
