@@ -2,11 +2,16 @@
 #include <Scene>
 
 #include "widget/GLCanvasPrivate.h"
+#include "widget/QtWidgetFactory.h"
 #include "widget/ViewGeometry.h"
 
 namespace VOR2 {
 
-GLCanvas::GLCanvas() : d(std::make_unique<GLCanvasPrivate>(this)) {}
+GLCanvas::GLCanvas() : d(std::make_unique<GLCanvasPrivate>(this))
+{
+    // The widget reaches back for the server: make it once d is set.
+    d->widget = QtWidgetFactory::createWidgetFor(this);
+}
 
 GLCanvas::~GLCanvas() = default;
 

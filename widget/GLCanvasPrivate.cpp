@@ -17,7 +17,6 @@ GLCanvasPrivate::GLCanvasPrivate(GLCanvas *c) : canvas(c)
     layerStack.layerAdded.connect(this, [this](int i) { onLayerAdded(i); }, host);
     layerStack.layerRemoved.connect(this, [this](int i) { onLayerRemoved(i); }, host);
     server.setLayerStack(&layerStack);
-    widget = QtWidgetFactory::createWidgetFor(canvas);
 }
 
 GLCanvasPrivate::~GLCanvasPrivate()

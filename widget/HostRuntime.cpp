@@ -3,6 +3,7 @@
 #include "GLBridge/Bridge.h"
 #include "GLServices/HostRunLoop.h"
 #include "ut/Assert.h"
+#include "widget/QtWidgetFactory.h"
 #include "widget/VOREventDispatcher.h"
 
 #include <atomic>
@@ -19,12 +20,15 @@ void HostRuntime::start()
     bridge().start();
     s_loop = new GLServices::HostRunLoop;
     VOREventDispatcher::install();
+    // Canvases made from now on get their widgets on the GUI thread.
+    bridge().runOnGui([] { QtWidgetFactory::install(); }, true);
 }
 
 void HostRuntime::stop()
 {
     GLServices::HostRunLoop *loop = s_loop;
     if (!loop) return;
+    bridge().runOnGui([] { QtWidgetFactory::uninstall(); }, true);
     bridge().stop();
     s_loop = nullptr;
     delete loop;

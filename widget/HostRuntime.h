@@ -9,7 +9,9 @@
 //   2. makes the HostRunLoop on the calling thread, which names it "TARVO"
 //      and provides the host services;
 //   3. installs VOREventDispatcher for the calling thread, so QObjects living
-//      there get their timers and posted events from the host loop.
+//      there get their timers and posted events from the host loop;
+//   4. installs the QtWidgetFactory on the GUI thread, so canvases get
+//      their widgets there.
 // The program then runs the host loop (loop().runFor, runUntil, ...).
 // stop(), on the same thread, stops the GUI thread (destroying the
 // QApplication) and then the loop. The dispatcher stays installed. Once per

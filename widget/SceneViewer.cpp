@@ -81,9 +81,8 @@ void SceneViewer::emitViewRequest(ViewRequest const &request)
     viewRequestReady.send(); // queued to the host thread
 }
 
-void SceneViewer::resizeEvent(QResizeEvent *event)
+void SceneViewer::resizeEvent(QResizeEvent *)
 {
-    QAbstractScrollArea::resizeEvent(event);
     m_scrollExtent = QRectF();
     ViewRequest request{1.0, 0.0, 0.0, double(viewportSize().width()), double(viewportSize().height())};
     if (m_rendering) {
@@ -111,6 +110,14 @@ void SceneViewer::scrollContentsBy(int dx, int dy)
         request.originY = origin.y;
     }
     emitViewRequest(request);
+}
+
+bool SceneViewer::event(QEvent *event)
+{
+    // The scroll area lays out its children on a resize without telling
+    // resizeEvent: the view must hear of it.
+    if (event->type() == QEvent::Resize) resizeEvent(static_cast<QResizeEvent *>(event));
+    return QAbstractScrollArea::event(event);
 }
 
 bool SceneViewer::viewportEvent(QEvent *event)

@@ -64,6 +64,8 @@ void Bridge::State::run(std::promise<void> &startedSignal)
     GLUV::Thread *self = GLUV::Thread::getCurrentThread();
     GLUV::Thread::nameCurrentThread(GUI_THREAD_NAME);
     QApplication application(argc, argv);
+    // The host decides when the GUI thread ends, not the last closed window.
+    QApplication::setQuitOnLastWindowClosed(false);
     GuiQueueRunner queueRunner(self, scheduled);
     {
         std::lock_guard<std::mutex> lock(mutex);

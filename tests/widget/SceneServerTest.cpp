@@ -1,0 +1,167 @@
+// The scene server on pixels: what a change redraws, what a view change
+// redraws, and how layers compose.
+
+#include <LayerStack>
+#include <RectNode>
+#include <Scene>
+
+#include "scene/ScenePrivate.h"
+#include "support/PixelCompare.h"
+#include "widget/LayerPainter.h"
+#include "widget/HostRuntime.h"
+#include "widget/SceneServer.h"
+#include "GLServices/HostRunLoop.h"
+
+#include <QPainter>
+#include <gtest/gtest.h>
+
+using namespace VOR2;
+using namespace VOR2::test;
+
+namespace {
+RectNode solid(double x, double y, double w, double h, QColor color)
+{
+    RectNode n(GLOX::GLRect<double>(x, y, w, h));
+    n.setDrawStyle(DrawStyle(Stroke::NoStroke(), Fill(GLOX::fromQColor(color))));
+    return n;
+}
+
+class SceneServerTest : public ::testing::Test {
+protected:
+    void SetUp() override
+    {
+        scene = Scene::createScene();
+        stack.insertLayer(0, GLOX::Holder<Layer>(new Layer(scene.get(), LayerStack::baseLayerId())));
+        server.setLayerStack(&stack);
+    }
+    void TearDown() override { server.setLayerStack(nullptr); }
+
+    void show(double scale, double x, double y, double w = 100, double h = 100)
+    {
+        server.setPendingViewRequest({scale, x, y, w, h});
+        server.processPendingViewRequest();
+    }
+    // The host loop runs until idle: the scene's queued update reaches the
+    // server.
+    void settle() { HostRuntime::loop().runUntilIdle(); }
+    QImage &layerImage(int i = 0) { return server.rendering().layers[size_t(i)]->image; }
+    QRectF takeDirty()
+    {
+        Rendering::Locker lock(server.rendering());
+        QRectF d = server.rendering().dirty;
+        server.rendering().dirty = QRectF();
+        return d;
+    }
+
+    GLOX::Holder<Scene> scene;
+    LayerStack stack;
+    SceneServer server;
+};
+} // namespace
+
+TEST_F(SceneServerTest, AViewRequestRendersTheVisibleScene)
+{
+    RectNode n = solid(10, 10, 20, 20, Qt::red);
+    scene->addNode(n);
+    show(2, 0, 0);
+    EXPECT_TRUE(pixelIs(layerImage(), 30, 30, Qt::red));
+    EXPECT_TRUE(pixelIs(layerImage(), 70, 70, Qt::transparent));
+    EXPECT_EQ(layerImage().size(), QSize(100, 100));
+    EXPECT_EQ(server.getImage(0).pixel(70, 70), QColor(Qt::white).rgb()) << "the capture is over white";
+}
+
+TEST_F(SceneServerTest, OnlyTheLatestPendingRequestApplies)
+{
+    scene->addNode(solid(0, 0, 10, 10, Qt::red));
+    server.setPendingViewRequest({2, 0, 0, 100, 100});
+    server.setPendingViewRequest({3, 1, 1, 100, 100});
+    EXPECT_EQ(server.getViewInfo().scale, 3) << "getters see the request before any redraw";
+    server.processPendingViewRequest();
+    EXPECT_EQ(server.rendering().view.scale, 3);
+    ViewRequest none;
+    EXPECT_FALSE(server.takePendingViewRequest(none)) << "a later wake-up finds nothing";
+}
+
+TEST_F(SceneServerTest, AnEmptySceneIsShownAtTheIdentityView)
+{
+    show(5, 40, 40, 50, 60);
+    EXPECT_EQ(server.rendering().view.scale, 1);
+    EXPECT_EQ(server.rendering().view.originX, 0);
+    EXPECT_EQ(server.rendering().view.viewWidth, 50);
+}
+
+TEST_F(SceneServerTest, MovingANodeRedrawsItsOldAndNewAreaOnly)
+{
+    RectNode moving = solid(10, 10, 10, 10, Qt::red);
+    scene->addNode(moving);
+    scene->addNode(solid(70, 70, 10, 10, Qt::blue));
+    show(1, 0, 0);
+    settle();
+    takeDirty();
+    layerImage().setPixelColor(90, 10, Qt::green); // a canary outside both areas
+
+    moving.setPosition({30, 0});
+    settle();
+    EXPECT_TRUE(pixelIs(layerImage(), 15, 15, Qt::transparent)) << "the old area is erased";
+    EXPECT_TRUE(pixelIs(layerImage(), 45, 15, Qt::red));
+    EXPECT_TRUE(pixelIs(layerImage(), 90, 10, Qt::green)) << "nothing else is redrawn";
+    QRectF dirty = takeDirty();
+    EXPECT_TRUE(dirty.contains(QRectF(10, 10, 10, 10)));
+    EXPECT_TRUE(dirty.contains(QRectF(40, 10, 10, 10)));
+    EXPECT_FALSE(dirty.intersects(QRectF(70, 70, 10, 10)));
+}
+
+TEST_F(SceneServerTest, RemovedAndHiddenNodesLeaveNoTrace)
+{
+    RectNode gone = solid(10, 10, 10, 10, Qt::red), hidden = solid(50, 50, 10, 10, Qt::blue);
+    scene->addNode(gone);
+    scene->addNode(hidden);
+    show(1, 0, 0);
+    settle();
+    gone.remove();
+    hidden.setVisible(false);
+    settle();
+    EXPECT_TRUE(pixelIs(layerImage(), 15, 15, Qt::transparent));
+    EXPECT_TRUE(pixelIs(layerImage(), 55, 55, Qt::transparent));
+    hidden.setVisible(true);
+    settle();
+    EXPECT_TRUE(pixelIs(layerImage(), 55, 55, Qt::blue));
+}
+
+TEST_F(SceneServerTest, AScrollRepaintsTheWholeViewportAndAResizeStartsAfresh)
+{
+    scene->addNode(solid(0, 0, 300, 300, Qt::red));
+    show(1, 0, 0);
+    takeDirty();
+    show(1, 20, 0);
+    EXPECT_EQ(takeDirty(), QRectF(20, 0, 100, 100)) << "the viewport shifted: all of it is dirty";
+    EXPECT_TRUE(pixelIs(layerImage(), 50, 50, Qt::red));
+    show(1, 20, 0, 150, 120);
+    EXPECT_EQ(layerImage().size(), QSize(150, 120));
+    EXPECT_TRUE(pixelIs(layerImage(), 140, 110, Qt::red)) << "a larger view is drawn in full";
+}
+
+TEST_F(SceneServerTest, LayersComposeInIndexOrderOverTheirBackgrounds)
+{
+    scene->addNode(solid(0, 0, 50, 50, Qt::red));
+    auto upper = Scene::createScene();
+    upper->addNode(solid(25, 25, 50, 50, Qt::blue));
+    stack.insertLayer(1, GLOX::Holder<Layer>(new Layer(upper.get(), "upper")));
+    scene->setBackground(Background(GLOX::Color(1, 1, 0)));
+    show(1, 0, 0);
+    QImage view = transparentImage(100, 100);
+    {
+        QPainter painter(&view);
+        Rendering::Locker lock(server.rendering());
+        paintLayers(&painter, server.rendering(), QRect(0, 0, 100, 100));
+    }
+    EXPECT_TRUE(pixelIs(view, 10, 10, Qt::red));
+    EXPECT_TRUE(pixelIs(view, 40, 40, Qt::blue)) << "the upper layer is drawn over the base";
+    EXPECT_TRUE(pixelIs(view, 90, 90, Qt::yellow)) << "the base layer's background";
+    stack.removeLayer(1);
+}
+
+TEST_F(SceneServerTest, ALayerAddedBeforeTheViewSizeIsKnownIsOnePixel)
+{
+    EXPECT_EQ(layerImage().size(), QSize(1, 1));
+}
