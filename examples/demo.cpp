@@ -1,23 +1,31 @@
 // The VOR2 demo.
 //
 //   vor2_demo [--tour] [--render FILE.png] [--scale S] [--pdf FILE.pdf] [--show]
+//             [--screenshot FILE.png]
 //
 // --tour prints a tour of the scene spine (the default without options);
 // --render writes the gallery, every primitive node kind at several styles,
 // as a PNG at S pixels per unit (default 2); --pdf prints it to a PDF file;
-// --show opens a window with the picture when a display is there.
+// --show opens the gallery in a canvas window, zoomed to fit, when a
+// display is there; --screenshot FILE.png does so, saves the window and ends.
+//
+// The program runs as the library runs in a host: this thread is the host
+// thread and owns the scenes; the GUI thread owns the QApplication.
 
 #include "DemoGallery.h"
 #include "DemoTour.h"
 
 #include <VOR2>
 
-#include <QApplication>
+#include "GLBridge/Bridge.h"
+#include "GLServices/HostRunLoop.h"
+#include <HostRuntime>
+
+#include <QEvent>
 #include <QGuiApplication>
-#include <QLabel>
-#include <QPixmap>
 #include <QPrinter>
-#include <QScrollArea>
+#include <QWidget>
+#include <chrono>
 #include <cstdio>
 #include <cstring>
 #include <string>
@@ -29,6 +37,7 @@ struct Options {
     double scale = 2.0;
     std::string png;
     std::string pdf;
+    std::string screenshot;
 };
 
 bool parse(int argc, char **argv, Options &o)
@@ -44,6 +53,12 @@ bool parse(int argc, char **argv, Options &o)
         else if (!std::strcmp(a, "--show")) o.show = true;
         else if (!std::strcmp(a, "--render")) { char const *v = value(a); if (!v) return false; o.png = v; }
         else if (!std::strcmp(a, "--pdf")) { char const *v = value(a); if (!v) return false; o.pdf = v; }
+        else if (!std::strcmp(a, "--screenshot")) {
+            char const *v = value(a);
+            if (!v) return false;
+            o.screenshot = v;
+            o.show = true;
+        }
         else if (!std::strcmp(a, "--scale")) {
             char const *v = value(a);
             if (!v || !(std::atof(v) > 0)) { std::fprintf(stderr, "--scale needs a positive number\n"); return false; }
@@ -53,23 +68,74 @@ bool parse(int argc, char **argv, Options &o)
             return false;
         }
     }
-    if (o.png.empty() && o.pdf.empty()) o.tour = true;
+    if (o.png.empty() && o.pdf.empty() && !o.show) o.tour = true;
     return true;
+}
+
+// Ends the host loop when the user closes the window.
+class CloseWatcher : public QObject {
+public:
+    explicit CloseWatcher(QObject *parent) : QObject(parent) {}
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        if (event->type() == QEvent::Close) VOR2::HostRuntime::loop().quit();
+        return false;
+    }
+};
+
+// Shows the scene in a canvas window and runs the host loop until the
+// window is closed, or, with a screenshot path, until the fitted view is on
+// screen and saved there.
+void showInWindow(VOR2::Scene *scene, std::string const &screenshot)
+{
+    using namespace std::chrono_literals;
+    VOR2::GLCanvas canvas;
+    canvas.setScene(scene);
+    QWidget *window = canvas.getWidget();
+    VOR2::HostRuntime::bridge().runOnGui([window] {
+        window->setWindowTitle("VOR2 gallery");
+        window->resize(900, 600);
+        window->installEventFilter(new CloseWatcher(window)); // lives and dies with the window
+        window->show();
+    }, true);
+    VOR2::HostRuntime::loop().runUntil([&] { return canvas.getViewExtents().x > 0; }, 5000ms);
+    canvas.zoomToSceneRect();
+    if (!screenshot.empty()) {
+        VOR2::HostRuntime::loop().runFor(500ms); // the fitted view is rendered and published
+        bool saved = false;
+        VOR2::HostRuntime::bridge().runOnGui([&] {
+            saved = window->grab().save(QString::fromStdString(screenshot));
+            window->hide();
+        }, true);
+        std::printf(saved ? "Window captured to %s\n" : "Cannot write %s\n", screenshot.c_str());
+        return;
+    }
+    std::printf("A window shows the gallery; close it to end.\n");
+    VOR2::HostRuntime::loop().runUntil([] { return false; }, std::chrono::hours(24));
 }
 } // namespace
 
+int run(Options const &options);
+
 int main(int argc, char **argv)
 {
-    QApplication app(argc, argv);
     Options options;
     if (!parse(argc, argv, options)) return 2;
+    VOR2::HostRuntime::start();
+    int result = run(options);
+    VOR2::HostRuntime::stop();
+    return result;
+}
+
+int run(Options const &options)
+{
     if (options.tour) demo::runTour();
-    if (options.png.empty() && options.pdf.empty()) return 0;
+    if (options.png.empty() && options.pdf.empty() && !options.show) return 0;
 
     GLOX::Holder<VOR2::Scene> scene = VOR2::Scene::createScene();
     demo::buildGallery(*scene);
-    QImage picture = demo::renderAtScale(*scene, options.scale, 10);
     if (!options.png.empty()) {
+        QImage picture = demo::renderAtScale(*scene, options.scale, 10);
         if (!picture.save(QString::fromStdString(options.png))) {
             std::fprintf(stderr, "cannot write %s\n", options.png.c_str());
             return 1;
@@ -89,12 +155,6 @@ int main(int argc, char **argv)
         std::printf("No display: open the PNG above to see the gallery.\n");
         return 0;
     }
-    QScrollArea window;
-    QLabel *label = new QLabel;
-    label->setPixmap(QPixmap::fromImage(picture));
-    window.setWidget(label);
-    window.setWindowTitle("VOR2 gallery");
-    window.resize(std::min(picture.width() + 20, 1400), std::min(picture.height() + 20, 900));
-    window.show();
-    return app.exec();
+    showInWindow(scene.get(), options.screenshot);
+    return 0;
 }

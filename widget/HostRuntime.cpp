@@ -1,4 +1,4 @@
-#include "widget/HostRuntime.h"
+#include <HostRuntime>
 
 #include "GLBridge/Bridge.h"
 #include "GLServices/HostRunLoop.h"

@@ -4,7 +4,7 @@
 // the host loop themselves (HostRuntime::loop()).
 
 #include "GLServices/HostRunLoop.h"
-#include "widget/HostRuntime.h"
+#include <HostRuntime>
 
 #include <QByteArray>
 #include <gtest/gtest.h>

@@ -4,7 +4,7 @@
 #include "GLBridge/Bridge.h"
 #include "GLUV/Emitter.h"
 #include "GLUV/Thread.h"
-#include "widget/HostRuntime.h"
+#include <HostRuntime>
 
 #include <QApplication>
 #include <QThread>

@@ -6,7 +6,7 @@
 #include "GLServices/HostRunLoop.h"
 #include "GLUV/Emitter.h"
 #include "GLUV/Thread.h"
-#include "widget/HostRuntime.h"
+#include <HostRuntime>
 
 #include <gtest/gtest.h>
 #include <vector>

@@ -3,7 +3,7 @@
 
 #include "GLServices/HostRunLoop.h"
 #include "GLServices/ManualClock.h"
-#include "widget/HostRuntime.h"
+#include <HostRuntime>
 
 #include <gtest/gtest.h>
 #include <memory>

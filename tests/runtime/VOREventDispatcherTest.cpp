@@ -4,7 +4,7 @@
 #include "GLBridge/Bridge.h"
 #include "GLServices/HostRunLoop.h"
 #include "GLServices/ManualClock.h"
-#include "widget/HostRuntime.h"
+#include <HostRuntime>
 #include "widget/VOREventDispatcher.h"
 
 #include <QCoreApplication>

@@ -9,7 +9,7 @@
 #include "GLBridge/Bridge.h"
 #include "GLServices/HostRunLoop.h"
 #include "support/PixelCompare.h"
-#include "widget/HostRuntime.h"
+#include <HostRuntime>
 #include "widget/SceneServer.h"
 
 #include <QWidget>

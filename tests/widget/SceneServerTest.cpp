@@ -8,7 +8,7 @@
 #include "scene/ScenePrivate.h"
 #include "support/PixelCompare.h"
 #include "widget/LayerPainter.h"
-#include "widget/HostRuntime.h"
+#include <HostRuntime>
 #include "widget/SceneServer.h"
 #include "GLServices/HostRunLoop.h"
 
