@@ -12,9 +12,9 @@
 
 #include <QImage>
 #include <QPainterPath>
-#include <QRecursiveMutex>
 #include <QRectF>
 #include <memory>
+#include <mutex>
 #include <vector>
 
 namespace VOR2 {
@@ -58,7 +58,8 @@ public:
     std::vector<std::unique_ptr<RenderedLayer>> layers;
 
 private:
-    QRecursiveMutex m_mutex;
+    // A standard mutex, not Qt's: thread checkers see its hand-overs.
+    std::recursive_mutex m_mutex;
     int m_lockCount = 0;
     Qt::HANDLE m_lockOwner = nullptr;
 };

@@ -27,13 +27,13 @@ SceneServer::~SceneServer() { setLayerStack(nullptr); }
 
 void SceneServer::setPendingViewRequest(ViewRequest const &request)
 {
-    QMutexLocker lock(&m_pendingMutex);
+    std::lock_guard<std::mutex> lock(m_pendingMutex);
     m_pendingRequest = std::make_unique<ViewRequest>(request);
 }
 
 bool SceneServer::takePendingViewRequest(ViewRequest &request)
 {
-    QMutexLocker lock(&m_pendingMutex);
+    std::lock_guard<std::mutex> lock(m_pendingMutex);
     if (!m_pendingRequest) return false;
     request = *m_pendingRequest;
     m_pendingRequest.reset();
@@ -42,7 +42,7 @@ bool SceneServer::takePendingViewRequest(ViewRequest &request)
 
 bool SceneServer::peekPendingViewRequest(ViewRequest &request) const
 {
-    QMutexLocker lock(&m_pendingMutex);
+    std::lock_guard<std::mutex> lock(m_pendingMutex);
     if (!m_pendingRequest) return false;
     request = *m_pendingRequest;
     return true;

@@ -20,10 +20,10 @@
 #include "widget/Rendering.h"
 
 #include <QList>
-#include <QMutex>
 #include <QObject>
 #include <QRectF>
 #include <memory>
+#include <mutex>
 #include <vector>
 
 namespace VOR2 {
@@ -92,7 +92,7 @@ private:
     // scene. Keys of removed nodes are never dereferenced.
     GLOX::GHash<ScenePrivate const *, PaintedBounds> m_paintedBounds;
     Rendering m_rendering;
-    mutable QMutex m_pendingMutex;
+    mutable std::mutex m_pendingMutex;
     std::unique_ptr<ViewRequest> m_pendingRequest;
     GLOX::GLRect<double> m_margins;
     bool m_fullRedraw = false;
