@@ -12,6 +12,8 @@
 #include <HostRuntime>
 #include "widget/SceneServer.h"
 
+#include <QAbstractScrollArea>
+#include <QScrollBar>
 #include <QWidget>
 #include <gtest/gtest.h>
 
@@ -86,5 +88,22 @@ TEST(Canvas, AWindowShowsTheSceneRenderedOnTheHostThread)
     int frame = (widget->width() - canvas.getViewExtents().x) / 2;
     EXPECT_TRUE(pixelIs(grabbed, int(red.x()) + frame, int(red.y()) + frame, Qt::red));
     EXPECT_TRUE(pixelIs(grabbed, int(blue.x()) + frame, int(blue.y()) + frame, Qt::blue));
+
+    // All content fits: no scroll range. Zoomed in: the bars can reach it all.
+    auto ranges = [&] {
+        int h = 0, v = 0;
+        HostRuntime::bridge().runOnGui([&] {
+            auto *area = static_cast<QAbstractScrollArea *>(widget);
+            h = area->horizontalScrollBar()->maximum() - area->horizontalScrollBar()->minimum();
+            v = area->verticalScrollBar()->maximum() - area->verticalScrollBar()->minimum();
+        }, true);
+        return std::make_pair(h, v);
+    };
+    pumpUntil([&] { return ranges() == std::make_pair(0, 0); });
+    EXPECT_EQ(ranges(), std::make_pair(0, 0));
+    canvas.setScale(8);
+    pumpUntil([&] { return ranges().first > 0; });
+    EXPECT_GT(ranges().first, 0);
+    EXPECT_GT(ranges().second, 0);
     HostRuntime::bridge().runOnGui([widget] { widget->hide(); }, true);
 }
