@@ -107,3 +107,28 @@ TEST(Canvas, AWindowShowsTheSceneRenderedOnTheHostThread)
     EXPECT_GT(ranges().second, 0);
     HostRuntime::bridge().runOnGui([widget] { widget->hide(); }, true);
 }
+
+TEST(Canvas, TheMarqueeIsDrawnOverTheLayers)
+{
+    auto scene = Scene::createScene();
+    scene->addNode(solid(0, 0, 100, 100, Qt::red));
+    GLCanvas canvas;
+    canvas.setScene(scene.get());
+    showWindow(canvas, 140, 140);
+    canvas.setInitialSceneOriginAndScale({0, 0}, 1.0);
+    canvas.setMarquee({20, 20, 40, 30});
+    HostRuntime::loop().runUntilIdle();
+    QImage grabbed;
+    QWidget *widget = canvas.getWidget();
+    int frame = (widget->width() - int(canvas.getViewExtents().x)) / 2;
+    pumpUntil([&] {
+        HostRuntime::bridge().runOnGui([&] { grabbed = widget->grab().toImage(); }, true);
+        return bool(pixelIs(grabbed, 20 + frame, 35 + frame, QColor(106, 166, 255), 0));
+    });
+    EXPECT_TRUE(pixelIs(grabbed, 20 + frame, 35 + frame, QColor(106, 166, 255), 0)) << "the outline";
+    QColor inside = grabbed.pixelColor(40 + frame, 35 + frame);
+    EXPECT_GT(inside.blue(), 60) << "translucent blue over the red square";
+    EXPECT_GT(inside.red(), 150);
+    canvas.setMarquee({});
+    HostRuntime::bridge().runOnGui([widget] { widget->hide(); }, true);
+}
