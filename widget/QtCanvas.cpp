@@ -5,6 +5,9 @@
 
 #include "GLUV/Thread.h"
 
+#include <QApplication>
+#include <QMouseEvent>
+
 namespace VOR2 {
 
 QtCanvas::QtCanvas(GLCanvas *canvas, QWidget *parent)
@@ -18,6 +21,34 @@ QtCanvas::QtCanvas(GLCanvas *canvas, QWidget *parent)
         host->post([dpi] { GlobalViewerInfo::instance()->setDpi(dpi); });
     else
         GlobalViewerInfo::instance()->setDpi(dpi);
+}
+
+void QtCanvas::mousePressEvent(QMouseEvent *event)
+{
+    if (!m_dragArmed && event->button() == Qt::LeftButton) {
+        m_pressPos = event->pos();
+        m_pressGlobalPos = event->globalPos();
+        m_pressTopLevelPos = window()->mapFromGlobal(event->globalPos());
+        m_dragArmed = true;
+    }
+    SceneViewer::mousePressEvent(event);
+}
+
+void QtCanvas::mouseMoveEvent(QMouseEvent *event)
+{
+    if (m_dragArmed && (m_pressGlobalPos - event->globalPos()).manhattanLength() > QApplication::startDragDistance()) {
+        if (userDragInit.connectionCount() > 0)
+            userDragInit.send(UserDragStart{m_pressPos, m_pressGlobalPos, m_pressTopLevelPos, Qt::LeftButton,
+                                            event->buttons(), event->modifiers()});
+        m_dragArmed = false;
+    }
+    SceneViewer::mouseMoveEvent(event);
+}
+
+void QtCanvas::mouseReleaseEvent(QMouseEvent *event)
+{
+    m_dragArmed = false;
+    SceneViewer::mouseReleaseEvent(event);
 }
 
 } // namespace VOR2

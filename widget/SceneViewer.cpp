@@ -5,6 +5,7 @@
 #include "widget/SceneServer.h"
 #include "widget/ViewGeometry.h"
 
+#include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
 #include <QScrollBar>
@@ -114,15 +115,26 @@ void SceneViewer::scrollContentsBy(int dx, int dy)
 
 bool SceneViewer::event(QEvent *event)
 {
+    switch (event->type()) {
+    // Mouse input goes straight to the handlers, past the scroll area's own.
+    case QEvent::MouseButtonPress: mousePressEvent(static_cast<QMouseEvent *>(event)); break;
+    case QEvent::MouseButtonRelease: mouseReleaseEvent(static_cast<QMouseEvent *>(event)); break;
+    case QEvent::MouseMove: mouseMoveEvent(static_cast<QMouseEvent *>(event)); break;
     // The scroll area lays out its children on a resize without telling
     // resizeEvent: the view must hear of it.
-    if (event->type() == QEvent::Resize) resizeEvent(static_cast<QResizeEvent *>(event));
-    return QAbstractScrollArea::event(event);
+    case QEvent::Resize: resizeEvent(static_cast<QResizeEvent *>(event)); return QAbstractScrollArea::event(event);
+    default: return QAbstractScrollArea::event(event);
+    }
+    event->accept();
+    return true;
 }
 
 bool SceneViewer::viewportEvent(QEvent *event)
 {
     switch (event->type()) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonRelease:
+    case QEvent::MouseMove: return SceneViewer::event(event);
     case QEvent::Paint: return QFrame::event(event);
     case QEvent::Resize: viewport()->update(); return false;
     default: return QAbstractScrollArea::viewportEvent(event);
