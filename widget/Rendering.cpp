@@ -35,12 +35,7 @@ QImage Rendering::newLayerImage() const { return transparentImage(view.imageWidt
 
 QRectF Rendering::applyRequest(ViewRequest const &request)
 {
-    view.viewWidth = request.width;
-    view.viewHeight = request.height;
-    view.scale = request.scale;
-    view.originX = request.originX;
-    view.originY = request.originY;
-    view.offsetX = view.offsetY = 0.0;
+    view = view::overlaid(view, request);
     if (request.width != view.imageWidth || request.height != view.imageHeight) {
         view.imageWidth = request.width;
         view.imageHeight = request.height;
