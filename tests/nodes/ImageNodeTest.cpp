@@ -4,10 +4,9 @@
 #include <ImageNode>
 
 #include "nodes/ImageNodeImpl.h"
-#include "support/PixelCompare.h"
+#include "support/PaintNode.h"
 
 #include <QDir>
-#include <QPainter>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
@@ -22,14 +21,7 @@ QImage filled(int w, int h, QColor const &colour)
     return image;
 }
 
-QImage paintNode(ImageNode const &node, int w, int h)
-{
-    QImage image = transparentImage(w, h);
-    QPainter painter(&image);
-    QStyleOptionGraphicsItem option;
-    node.getImpl()->getGraphicsItem()->paint(&painter, &option, nullptr);
-    return image;
-}
+QImage paintNode(ImageNode const &node, int w, int h) { return paintNodeAtScale(node, 1.0, w, h); }
 
 GLOX::GLRect<double> boundsOf(ImageNode const &node) { return node.getImpl()->computeBounds().boundingRect(); }
 } // namespace
@@ -75,13 +67,12 @@ TEST(ImageNode, ClientImageShowsACopyOfItsPixelsRegisteredOnce)
     GLOX::Holder<Image> client = Image::fromQImage(filled(4, 4, Qt::green));
     ImageNode node(client);
     EXPECT_EQ(node.getSize(), (GLOX::GLPoint<double>(4, 4)));
-    std::string why;
-    EXPECT_TRUE(pixelMatches(paintNode(node, 5, 5), 3, 3, QColor(Qt::green), 0, &why)) << why;
+    EXPECT_TRUE(pixelIs(paintNode(node, 5, 5), 3, 3, QColor(Qt::green), 0));
 
     // Registering again would take the changed pixels: the same holder must not.
     client->asQImage()->fill(Qt::red);
     node.setSource(client);
-    EXPECT_TRUE(pixelMatches(paintNode(node, 5, 5), 3, 3, QColor(Qt::green), 0, &why)) << why;
+    EXPECT_TRUE(pixelIs(paintNode(node, 5, 5), 3, 3, QColor(Qt::green), 0));
 
     // Another image of the same size: the outline stands, the look must be redrawn.
     node.getImpl()->setOffscreenDirty(false);
@@ -89,7 +80,7 @@ TEST(ImageNode, ClientImageShowsACopyOfItsPixelsRegisteredOnce)
     node.setSource(other);
     other.reset();
     EXPECT_TRUE(node.getImpl()->isOffscreenDirty());
-    EXPECT_TRUE(pixelMatches(paintNode(node, 5, 5), 3, 3, QColor(Qt::blue), 0, &why)) << why;
+    EXPECT_TRUE(pixelIs(paintNode(node, 5, 5), 3, 3, QColor(Qt::blue), 0));
 }
 
 TEST(ImageNode, FractionalSizeDrawsIntoTheTruncatedIntegerRectangle)
@@ -97,10 +88,9 @@ TEST(ImageNode, FractionalSizeDrawsIntoTheTruncatedIntegerRectangle)
     ImageNode node(Image::fromQImage(filled(2, 2, Qt::red)));
     node.setSize(10.7, 3.2);
     QImage painted = paintNode(node, 14, 6);
-    std::string why;
-    EXPECT_TRUE(pixelMatches(painted, 9, 2, QColor(Qt::red), 0, &why)) << why;
-    EXPECT_TRUE(pixelMatches(painted, 10, 2, QColor(0, 0, 0, 0), 0, &why)) << why;
-    EXPECT_TRUE(pixelMatches(painted, 9, 3, QColor(0, 0, 0, 0), 0, &why)) << why;
+    EXPECT_TRUE(pixelIs(painted, 9, 2, QColor(Qt::red), 0));
+    EXPECT_TRUE(pixelIs(painted, 10, 2, QColor(0, 0, 0, 0), 0));
+    EXPECT_TRUE(pixelIs(painted, 9, 3, QColor(0, 0, 0, 0), 0));
 }
 
 TEST(ImageNode, MaskIsBlackWithTheImagesAlphaAtItsNaturalSize)
@@ -115,11 +105,10 @@ TEST(ImageNode, MaskIsBlackWithTheImagesAlphaAtItsNaturalSize)
     node.getImpl()->paintMask(&painter, 1.0, GLOX::GLRect<double>(0, 0, 4, 4));
     EXPECT_EQ(painter.compositionMode(), QPainter::CompositionMode_SourceOver);
     painter.end();
-    std::string why;
-    EXPECT_TRUE(pixelMatches(mask, 0, 0, QColor(0, 0, 0, 255), 0, &why)) << why;
-    EXPECT_TRUE(pixelMatches(mask, 1, 0, QColor(0, 0, 0, 128), 1, &why)) << why;
-    EXPECT_TRUE(pixelMatches(mask, 2, 0, QColor(0, 0, 0, 0), 0, &why)) << why;
-    EXPECT_TRUE(pixelMatches(mask, 0, 1, QColor(0, 0, 0, 0), 0, &why)) << why;
+    EXPECT_TRUE(pixelIs(mask, 0, 0, QColor(0, 0, 0, 255), 0));
+    EXPECT_TRUE(pixelIs(mask, 1, 0, QColor(0, 0, 0, 128), 1));
+    EXPECT_TRUE(pixelIs(mask, 2, 0, QColor(0, 0, 0, 0), 0));
+    EXPECT_TRUE(pixelIs(mask, 0, 1, QColor(0, 0, 0, 0), 0));
 
     // At a scale of 0.5 the device's size read in node units covers only part
     // of the image: the black must be laid over the device in its own pixels.
@@ -129,6 +118,6 @@ TEST(ImageNode, MaskIsBlackWithTheImagesAlphaAtItsNaturalSize)
     scaled.scale(0.5, 0.5);
     big.getImpl()->paintMask(&scaled, 0.5, GLOX::GLRect<double>(0, 0, 8, 8));
     scaled.end();
-    EXPECT_TRUE(pixelMatches(small, 2, 2, QColor(0, 0, 0, 255), 0, &why)) << why;
-    EXPECT_TRUE(pixelMatches(small, 3, 3, QColor(0, 0, 0, 0), 0, &why)) << why;
+    EXPECT_TRUE(pixelIs(small, 2, 2, QColor(0, 0, 0, 255), 0));
+    EXPECT_TRUE(pixelIs(small, 3, 3, QColor(0, 0, 0, 0), 0));
 }

@@ -1,7 +1,9 @@
 // The line node: hit testing with and without a scene, its outline, and the
-// decorations at its ends.
+// decorations at its ends: the turn towards a direction, the placement of the
+// decoration's node and the backoff the line stops short by.
 
 #include <ConstantLodScale>
+#include <Error>
 #include <LineNode>
 #include <RectNode>
 #include <Scene>
@@ -10,6 +12,7 @@
 #include "support/PaintNode.h"
 #include "support/SceneFixture.h"
 
+#include <QtMath>
 #include <gtest/gtest.h>
 
 using namespace VOR2;
@@ -25,13 +28,22 @@ Stroke widthStroke(double w, StrokeStyle style = SolidLine, StrokeCapStyle cap =
 
 // An arrow-head stand-in: a small square whose local origin is its centre.
 RectNode head() { return RectNode(R(-1, -1, 2, 2)); }
+
+void expectNear(P const &actual, P const &expected)
+{
+    EXPECT_NEAR(actual.x, expected.x, 1e-9);
+    EXPECT_NEAR(actual.y, expected.y, 1e-9);
+}
 } // namespace
 
 class LineNodeHitTest : public SceneTest {};
 
-TEST_F(LineNodeHitTest, ToleranceAppliesOnlyOnAScene)
+TEST_F(LineNodeHitTest, ToleranceAndTheWiderHitBandApplyOnlyOnAScene)
 {
     LineNode line(P(0, 0), P(10, 0));
+    auto *impl = line.getValidLineNodeImpl();
+    // Off a scene: the hairline, one device pixel at scale 2.
+    EXPECT_NEAR(impl->computeHitBounds(2.0).boundingRect().height, 0.25, 1e-9);
     line.setStroke(widthStroke(1.0));
     EXPECT_TRUE(line.contains(P(5, 0.9)));
     EXPECT_FALSE(line.contains(P(5, 1.0)));
@@ -40,26 +52,13 @@ TEST_F(LineNodeHitTest, ToleranceAppliesOnlyOnAScene)
     EXPECT_TRUE(item->contains(QPointF(5, 0.9))) << "Qt's test is the line's own, full width";
     EXPECT_FALSE(LineNode(P(3, 3), P(3, 3)).contains(P(3, 3))) << "no length, no hit";
 
-    auto scene = Scene::createScene();
     scene->addNode(line);
     EXPECT_TRUE(line.contains(P(5, 4.9)));
     EXPECT_FALSE(line.contains(P(5, 5.0)));
-    scene->removeNode(line);
-}
-
-TEST_F(LineNodeHitTest, HitBandIsAtLeastTheToleranceWideOnScreen)
-{
-    LineNode line(P(0, 0), P(10, 0));
-    auto *impl = line.getValidLineNodeImpl();
-    // Off a scene: the hairline, one device pixel at scale 2.
-    EXPECT_NEAR(impl->computeHitBounds(2.0).boundingRect().height, 0.25, 1e-9);
-    auto scene = Scene::createScene();
-    scene->addNode(line);
-    // On a scene: twice the tolerance, divided by the scale.
+    // On a scene the band is at least twice the tolerance, divided by the scale.
     EXPECT_NEAR(impl->computeHitBounds(2.0).boundingRect().height, 4.0, 1e-9);
     line.setStroke(Stroke(GLOX::Color(), 20.0)); // 20 units at every scale
     EXPECT_NEAR(impl->computeHitBounds(2.0).boundingRect().height, 10.0, 1e-9);
-    scene->removeNode(line);
 }
 
 TEST(LineNode, OutlineFollowsCapAndWidthEvenWithoutPen)
@@ -109,4 +108,54 @@ TEST(LineNode, BackoffShortensTheDrawnLine)
     EXPECT_EQ(drawnLength(), full - 5);
     line.setStartDecoration(backingOff(3.0));
     EXPECT_EQ(drawnLength(), full - 8);
+}
+
+TEST(LineEndDecoration, DirectionGivesSignedAngleFromANonZeroReference)
+{
+    LineEndDecoration d;
+    d.setLineBackoff(5.0);
+    EXPECT_FALSE(d.isValid());
+    EXPECT_EQ(d.getBackoffVector(), P(0, 0)) << "no node, no backoff";
+    d.setDirection(P(0, 1));
+    EXPECT_DOUBLE_EQ(d.getRotation(), M_PI / 2);
+    d.setDirection(P(0, -1));
+    EXPECT_DOUBLE_EQ(d.getRotation(), -M_PI / 2);
+    d.setDirection(P(0, 0));
+    EXPECT_EQ(d.getRotation(), 0.0);
+    // Parallel vectors whose cosine rounds just past 1 give about 0, not NaN.
+    d.setReferenceDirection(P(0.7, 0.1));
+    d.setDirection(P(0.7 * 3, 0.1 * 3));
+    EXPECT_NEAR(d.getRotation(), 0.0, 1e-7);
+    // A zero reference direction fails and keeps the old one.
+    d.setReferenceDirection(P(0, 2));
+    EXPECT_THROW(d.setReferenceDirection(P(1e-9, 0)), Error);
+    EXPECT_EQ(d.getReferenceDirection(), P(0, 2));
+}
+
+TEST(LineEndDecoration, PlacesOriginOnPositionTurnedAndShifted)
+{
+    RectNode head(GLOX::GLRect<double>(-4, -2, 4, 4));
+    LineEndDecoration d(head);
+    d.setOrigin(P(1, 0));
+    d.setRelativePosition(2.0);
+    d.setPosition(P(10, 20));
+    d.setDirection(P(0, 3)); // a quarter turn: local x runs along scene y
+    GLOX::Transform t = head.getTransform();
+    // local p -> position + R * (p + 2 * (1, 0) - (1, 0))
+    expectNear(t.map(P(-1, 0)), P(10, 20));
+    expectNear(t.map(P(-1, 1)), P(9, 20));
+    d.setLineBackoff(3.0);
+    expectNear(d.getBackoffVector(), P(0, 3)); // along where the head points
+}
+
+TEST(LineEndDecoration, NewNodeTakesThePlaceUnderTheLine)
+{
+    RectNode line, first, second;
+    LineEndDecoration d(first);
+    d.setPosition(P(5, 0));
+    d.setParent(line);
+    EXPECT_EQ(first.getParent(), line);
+    d.setNode(second);
+    EXPECT_EQ(second.getParent(), line);
+    EXPECT_EQ(second.getTransform().map(P(0, 0)), P(5, 0));
 }

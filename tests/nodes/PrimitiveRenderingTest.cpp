@@ -29,15 +29,6 @@ DrawStyle styleOf(GLOX::Color fill, GLOX::Color stroke, double width, StrokeJoin
     return DrawStyle(Stroke(stroke, width, line, FlatCap, join), Fill(fill), true);
 }
 
-void expectMatchesAtEveryScale(Node const &node, std::string const &kind)
-{
-    for (double scale : SCALES) {
-        int side = int(SIDE * scale);
-        std::string name = kind + "_scale" + QString::number(scale).toStdString();
-        EXPECT_TRUE(matchesReference(paintNodeAtScale(node, scale, side, side), name, 2));
-    }
-}
-
 GLOX::Shape ringedTriangle()
 {
     QPainterPath path;
@@ -50,39 +41,27 @@ GLOX::Shape ringedTriangle()
 }
 } // namespace
 
-TEST(PrimitiveRendering, RectangleAliasedWithAThickDottedStroke)
+TEST(PrimitiveRendering, EveryPrimitiveMatchesItsReferenceAtThreeScales)
 {
-    RectNode n(R(4, 4, 16, 12));
-    n.setDrawStyle(DrawStyle(Stroke(GLOX::Color(0.1, 0.1, 0.5), 2.0, DotLine), Fill(GLOX::Color(1, 0.9, 0.3)), false));
-    expectMatchesAtEveryScale(n, "rect");
-}
+    RectNode rect(R(4, 4, 16, 12)); // aliased, with a thick dotted stroke
+    rect.setDrawStyle(DrawStyle(Stroke(GLOX::Color(0.1, 0.1, 0.5), 2.0, DotLine), Fill(GLOX::Color(1, 0.9, 0.3)), false));
+    RoundedRectNode rounded(R(3, 4, 18, 15), 5.0);
+    rounded.setDrawStyle(styleOf(GLOX::Color(1, 0.6, 0.2), GLOX::Color(0.1, 0.2, 0.8), 2.0));
+    EllipseNode ellipse(Ellipse(R(2, 5, 20, 14)));
+    ellipse.setDrawStyle(styleOf(GLOX::Color(0.3, 0.8, 0.4), GLOX::Color(0.2, 0.2, 0.2), 1.5));
+    ShapeNode shape(ringedTriangle());
+    shape.setDrawStyle(styleOf(GLOX::Color(0.6, 0.3, 0.8), GLOX::Color(0, 0, 0), 1.5, RoundJoin));
+    LineNode line(P(3, 21), P(21, 3));
+    line.setDrawStyle(styleOf(GLOX::Color(), GLOX::Color(0.8, 0.1, 0.1), 2.0, MiterJoin, DashLine));
 
-TEST(PrimitiveRendering, RoundedRectangle)
-{
-    RoundedRectNode n(R(3, 4, 18, 15), 5.0);
-    n.setDrawStyle(styleOf(GLOX::Color(1, 0.6, 0.2), GLOX::Color(0.1, 0.2, 0.8), 2.0));
-    expectMatchesAtEveryScale(n, "roundedrect");
-}
-
-TEST(PrimitiveRendering, Ellipse)
-{
-    EllipseNode n(Ellipse(R(2, 5, 20, 14)));
-    n.setDrawStyle(styleOf(GLOX::Color(0.3, 0.8, 0.4), GLOX::Color(0.2, 0.2, 0.2), 1.5));
-    expectMatchesAtEveryScale(n, "ellipse");
-}
-
-TEST(PrimitiveRendering, Shape)
-{
-    ShapeNode n(ringedTriangle());
-    n.setDrawStyle(styleOf(GLOX::Color(0.6, 0.3, 0.8), GLOX::Color(0, 0, 0), 1.5, RoundJoin));
-    expectMatchesAtEveryScale(n, "shape");
-}
-
-TEST(PrimitiveRendering, DashedLine)
-{
-    LineNode n(P(3, 21), P(21, 3));
-    n.setDrawStyle(styleOf(GLOX::Color(), GLOX::Color(0.8, 0.1, 0.1), 2.0, MiterJoin, DashLine));
-    expectMatchesAtEveryScale(n, "line");
+    std::pair<Node, char const *> const cases[] = {
+        {rect, "rect"}, {rounded, "roundedrect"}, {ellipse, "ellipse"}, {shape, "shape"}, {line, "line"}};
+    for (auto const &[node, kind] : cases)
+        for (double scale : SCALES) {
+            int side = int(SIDE * scale);
+            std::string name = kind + std::string("_scale") + QString::number(scale).toStdString();
+            EXPECT_TRUE(matchesReference(paintNodeAtScale(node, scale, side, side), name, 2));
+        }
 }
 
 TEST(PrimitiveRendering, HairlineIsOneOpaqueDevicePixelAtEveryScale)

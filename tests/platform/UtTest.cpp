@@ -57,7 +57,7 @@ void recordingHandler(char const *condition, char const *file, int line)
 }
 } // namespace
 
-TEST(UtAssert, ReportsConditionFileAndLine)
+TEST(UtAssert, ReportsConditionFileAndLineToTheHandlerThenThrows)
 {
     int const two = 2;
     int line = 0;
@@ -76,10 +76,7 @@ TEST(UtAssert, ReportsConditionFileAndLine)
 
     EXPECT_THROW(ut_assert_text(false, "explicit text", "some/file.cpp", 12), std::logic_error);
     EXPECT_NO_THROW(ut_assert_text(true, "explicit text", "some/file.cpp", 12));
-}
 
-TEST(UtAssert, HandlerSeesTheFailureBeforeTheThrow)
-{
     g_reported.clear();
     ut::AssertHandler previous = ut::setAssertHandler(&recordingHandler);
     EXPECT_EQ(previous, nullptr);

@@ -19,10 +19,8 @@ protected:
     void SetUp() override
     {
         SceneTest::SetUp();
-        scene = Scene::createScene();
         QObject::connect(scene->getPrivate(), &QGraphicsScene::changed, [this] { ++changedSignals; });
-        node = rect(0, 0);
-        scene->addNode(node);
+        node = added(rect(0, 0));
         runHostLoopTurn();
         scene->getPrivate()->takePendingChanges();
         changedSignals = 0;
@@ -30,14 +28,12 @@ protected:
     void TearDown() override
     {
         node = RectNode(static_cast<NodeImpl *>(nullptr));
-        scene.reset();
         SceneTest::TearDown();
     }
     int kind(Node const &n) { return pendingKind(*scene, n); }
     void clear() { scene->getPrivate()->takePendingChanges(); }
     static int queuedCalls() { return Diagnostics::intValue("Scene:Queued view updates"); }
 
-    GLOX::Holder<Scene> scene;
     RectNode node{static_cast<NodeImpl *>(nullptr)};
     int changedSignals = 0;
 };
@@ -72,13 +68,9 @@ TEST_F(ChangeRecording, EachKindOfSetterRecordsItsKind)
     clear();
     node.setClipsChildren(true);
     EXPECT_EQ(kind(node), REPAINT);
-}
-
-TEST_F(ChangeRecording, RepaintNeverLowersGeometry)
-{
     node.setRect({0, 0, 20, 20});
     node.setZValue(9);
-    EXPECT_EQ(kind(node), GEOMETRY);
+    EXPECT_EQ(kind(node), GEOMETRY) << "a repaint never lowers geometry";
 }
 
 TEST_F(ChangeRecording, ChangesReachChildrenHandledByTheScene)
@@ -120,8 +112,7 @@ TEST_F(ChangeRecording, RemovalMarksTheSubtreeAndALaterChangeMakesItGeometry)
 TEST_F(ChangeRecording, OneQueuedCallPerBatch)
 {
     int before = queuedCalls();
-    RectNode other = rect(50, 50);
-    scene->addNode(other);
+    RectNode other = added(rect(50, 50));
     for (int i = 0; i < 10; ++i) {
         node.setPosition({double(i), 0});
         other.setRect({0, 0, 10.0 + i, 10});

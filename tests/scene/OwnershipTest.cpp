@@ -8,87 +8,60 @@ using namespace VOR2::test;
 
 using Ownership = SceneTest;
 
-TEST_F(Ownership, DetachedNodeDiesWithItsLastHandle)
+TEST_F(Ownership, DetachedNodeDiesWithItsLastHandleOrParent)
 {
-    WeakRef weak;
+    WeakRef weak, weakChild;
     {
         RectNode n = rect(0, 0);
         weak = n;
         Node copy = n;
         n = RectNode(static_cast<NodeImpl *>(nullptr));
         EXPECT_TRUE(weak.isValid());
+        {
+            RectNode child = rect(0, 0);
+            weakChild = child;
+            child.setParent(copy);
+        }
+        EXPECT_TRUE(weakChild.isValid()) << "held by its parent";
     }
     EXPECT_FALSE(weak.isValid());
+    EXPECT_FALSE(weakChild.isValid());
     EXPECT_EQ(weak, WeakRef());
 }
 
 TEST_F(Ownership, AttachedNodeLivesWithoutHandlesUntilRemoved)
 {
-    auto scene = Scene::createScene();
-    WeakRef weak;
-    {
-        RectNode n = rect(0, 0);
-        weak = n;
-        scene->addNode(n);
-    }
-    ASSERT_TRUE(weak.isValid());
-    EXPECT_EQ(scene->getAllNodes().size(), 1);
+    WeakRef weak = added(rect(0, 0)), weakKept = added(rect(0, 0));
+    ASSERT_TRUE(weak.isValid() && weakKept.isValid());
+    EXPECT_EQ(scene->getAllNodes().size(), 2);
 
     weak.promote().remove();
     EXPECT_FALSE(weak.isValid());
-    EXPECT_TRUE(scene->getAllNodes().isEmpty());
-}
+    EXPECT_EQ(scene->getAllNodes().size(), 1);
 
-TEST_F(Ownership, RemoveNodeReturnsAHandleThatKeepsTheNode)
-{
-    auto scene = Scene::createScene();
-    WeakRef weak;
-    {
-        RectNode n = rect(0, 0);
-        weak = n;
-        scene->addNode(n);
-    }
-    Node kept = scene->removeNode(weak.promote());
-    EXPECT_TRUE(weak.isValid());
+    // removeNode hands back a handle that keeps the node.
+    Node kept = scene->removeNode(weakKept.promote());
+    EXPECT_TRUE(weakKept.isValid());
     EXPECT_EQ(kept.getScene(), nullptr);
+    EXPECT_TRUE(scene->getAllNodes().isEmpty());
     kept = Node();
-    EXPECT_FALSE(weak.isValid());
-}
-
-TEST_F(Ownership, ChildOfADetachedParentLivesWhileTheParentDoes)
-{
-    WeakRef weakChild;
-    {
-        RectNode parent = rect(0, 0);
-        {
-            RectNode child = rect(0, 0);
-            weakChild = child;
-            child.setParent(parent);
-        }
-        EXPECT_TRUE(weakChild.isValid());
-    }
-    EXPECT_FALSE(weakChild.isValid());
+    EXPECT_FALSE(weakKept.isValid());
 }
 
 TEST_F(Ownership, MovingBetweenScenesNeverPassesThroughZero)
 {
-    auto a = Scene::createScene(), b = Scene::createScene();
-    WeakRef weak;
-    {
-        RectNode n = rect(0, 0);
-        weak = n;
-        a->addNode(n);
-    }
-    b->addNode(weak.promote());
+    auto other = Scene::createScene();
+    WeakRef weak = added(rect(0, 0));
+    other->addNode(weak.promote());
     EXPECT_TRUE(weak.isValid());
-    EXPECT_EQ(weak.promote().getScene(), b.get());
+    EXPECT_EQ(weak.promote().getScene(), other.get());
 
-    // Through setParent as well: out of b, into a parent in a.
-    RectNode parentInA = rect(0, 0);
-    a->addNode(parentInA);
-    weak.promote().setParent(parentInA);
+    // Through setParent as well: out of the other scene, into a parent here.
+    weak.promote().setParent(added(rect(0, 0)));
     EXPECT_TRUE(weak.isValid());
-    EXPECT_EQ(weak.promote().getScene(), a.get());
+    EXPECT_EQ(weak.promote().getScene(), scene.get());
+    EXPECT_EQ(scene->getAllNodes().size(), 2);
+    EXPECT_TRUE(other->getAllNodes().isEmpty());
     EXPECT_EQ(weak.promote().getImpl()->refCount(), 2u) << "the attached reference and the promoted handle";
 }
 
@@ -98,11 +71,11 @@ TEST_F(Ownership, DestroyingASceneFreesItsTreeAndSparesHeldNodes)
     RectNode held = rect(0, 0);
     WeakRef heldChild;
     {
-        auto scene = Scene::createScene();
-        scene->addNode(held);
+        auto doomed = Scene::createScene();
+        doomed->addNode(held);
         for (int i = 0; i < 5; ++i) {
             RectNode top = rect(i, i);
-            scene->addNode(top);
+            doomed->addNode(top);
             for (int j = 0; j < 3; ++j) rect(j, j).setParent(top);
         }
         RectNode c = rect(0, 0);
@@ -119,7 +92,6 @@ TEST_F(Ownership, DestroyingASceneFreesItsTreeAndSparesHeldNodes)
 TEST_F(Ownership, WeakReferencesAllNullAtDeathAndSurviveAttachment)
 {
     std::vector<WeakRef> refs;
-    auto scene = Scene::createScene();
     {
         RectNode n = rect(0, 0);
         for (int i = 0; i < 200; ++i) refs.emplace_back(n);

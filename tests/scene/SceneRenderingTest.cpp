@@ -22,10 +22,7 @@ using SceneRendering = SceneTest;
 RectNode filledRect(double x, double y, double w, double h, GLOX::Color color)
 {
     RectNode n = rect(x, y, w, h);
-    DrawStyle style;
-    style.setStroke(Stroke::NoStroke());
-    style.setFill(Fill(color));
-    n.setDrawStyle(style);
+    n.setDrawStyle(DrawStyle(Stroke::NoStroke(), Fill(color)));
     return n;
 }
 
@@ -33,9 +30,8 @@ int offscreenRepaints() { return Diagnostics::intValue("Scene:Node offscreen rep
 
 } // namespace
 
-TEST_F(SceneRendering, AnEmptySceneIsTwiceTheMarginOfBackground)
+TEST_F(SceneRendering, AnEmptySceneIsTwiceTheMarginOfBackgroundOverWhite)
 {
-    auto scene = Scene::createScene();
     scene->setBackground(Background(GLOX::Color(0, 0, 1)));
     GLOX::Holder<Image> image = scene->render();
     ASSERT_EQ(image->width(), 40);
@@ -43,11 +39,7 @@ TEST_F(SceneRendering, AnEmptySceneIsTwiceTheMarginOfBackground)
     for (int y = 0; y < 40; y += 13)
         for (int x = 0; x < 40; x += 13) EXPECT_TRUE(pixelIs(*image->asQImage(), x, y, QColor(0, 0, 255)));
     EXPECT_TRUE(scene->render(0)->isNull());
-}
 
-TEST_F(SceneRendering, ATranslucentBackgroundShowsOverWhite)
-{
-    auto scene = Scene::createScene();
     scene->setBackground(Background(GLOX::Color(1, 0, 0, 0.5)));
     EXPECT_TRUE(pixelIs(*scene->render()->asQImage(), 5, 5, QColor(255, 127, 127)));
     scene->setBackground(Background()); // no colour at all: plain white
@@ -56,12 +48,9 @@ TEST_F(SceneRendering, ATranslucentBackgroundShowsOverWhite)
 
 TEST_F(SceneRendering, TheImageCoversTheBoundsPlusTheMarginOneUnitAPixel)
 {
-    auto scene = Scene::createScene();
-    RectNode a = filledRect(10, 10, 20, 10, GLOX::Color(1, 0, 0));
-    RectNode b = filledRect(0, 0, 5, 5, GLOX::Color(0, 1, 0));
+    scene->addNode(filledRect(10, 10, 20, 10, GLOX::Color(1, 0, 0)));
+    RectNode b = added(filledRect(0, 0, 5, 5, GLOX::Color(0, 1, 0)));
     b.setPosition({40.5, 30});
-    scene->addNode(a);
-    scene->addNode(b);
     EXPECT_EQ(scene->getBounds(), (GLOX::GLRect<double>(10, 10, 35.5, 25)));
 
     QImage image = *scene->render(2)->asQImage();
@@ -80,12 +69,9 @@ TEST_F(SceneRendering, TheImageCoversTheBoundsPlusTheMarginOneUnitAPixel)
 
 TEST_F(SceneRendering, PainterAndPrinterFormsFillNothing)
 {
-    auto scene = Scene::createScene();
     scene->setBackground(Background(GLOX::Color(1, 1, 0)));
-    RectNode a = filledRect(0, 0, 50, 50, GLOX::Color(0, 0, 1));
-    RectNode b = filledRect(100, 100, 50, 50, GLOX::Color(0, 0, 1));
-    scene->addNode(a);
-    scene->addNode(b);
+    scene->addNode(filledRect(0, 0, 50, 50, GLOX::Color(0, 0, 1)));
+    scene->addNode(filledRect(100, 100, 50, 50, GLOX::Color(0, 0, 1)));
 
     QImage onPainter = transparentImage(150, 150);
     {
@@ -143,7 +129,6 @@ TEST_F(SceneRendering, ANodeRendersAloneOrWithItsSubtree)
 
 TEST_F(SceneRendering, ACachingNodeRebuildsItsImageOnlyWhenWhollyExposed)
 {
-    auto scene = Scene::createScene();
     RectNode n = filledRect(0, 0, 20, 20, GLOX::Color(1, 0, 0));
     n.setCacheType(CacheType::Self);
     scene->addNode(n);
@@ -176,7 +161,6 @@ TEST_F(SceneRendering, ACachingNodeRebuildsItsImageOnlyWhenWhollyExposed)
 
 TEST_F(SceneRendering, TheRegionRendererClearsDrawsAndFlashes)
 {
-    auto scene = Scene::createScene();
     scene->addNode(filledRect(0, 0, 10, 10, GLOX::Color(1, 0, 0)));
     QImage layer(20, 20, QImage::Format_ARGB32_Premultiplied);
     layer.fill(QColor(0, 0, 255));

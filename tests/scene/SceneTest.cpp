@@ -23,10 +23,7 @@ DrawStyle redFilled()
 
 TEST_F(SceneBasics, AddingTwiceKeepsZAndStyle)
 {
-    auto scene = Scene::createScene();
-    RectNode n = rect(0, 0), other = rect(0, 0);
-    scene->addNode(n);
-    scene->addNode(other);
+    RectNode n = added(rect(0, 0)), other = added(rect(0, 0));
     scene->pushCreationDrawStyle(redFilled());
     EXPECT_EQ(scene->addNode(n), n);
     EXPECT_EQ(n.getZValue(), 1);
@@ -37,60 +34,52 @@ TEST_F(SceneBasics, AddingTwiceKeepsZAndStyle)
 
 TEST_F(SceneBasics, CreationStylesApplyToNewNodesOnly)
 {
-    auto a = Scene::createScene(), b = Scene::createScene();
-    RectNode fresh = rect(0, 0), moved = rect(0, 0);
-    DrawStyle own;
-    own.setIsAntiAliased(true);
+    auto other = Scene::createScene();
+    DrawStyle own(Stroke(), Fill(), true);
+    RectNode fresh = rect(0, 0), moved = rect(0, 0), plain = rect(0, 0);
     moved.setDrawStyle(own);
-    a->addNode(moved);
+    plain.setDrawStyle(own);
+    other->addNode(moved);
 
-    b->pushCreationDrawStyle(redFilled());
-    b->addNode(fresh);
-    b->addNode(moved);
+    scene->pushCreationDrawStyle(redFilled());
+    scene->addNode(fresh);
+    scene->addNode(moved);
     EXPECT_EQ(fresh.getDrawStyle(), redFilled());
     EXPECT_EQ(moved.getDrawStyle(), own) << "a node from another scene keeps its style";
 
-    EXPECT_EQ(b->popCreationDrawStyle(), redFilled());
-    EXPECT_EQ(b->getCreationDrawStyle(), DrawStyle());
-    EXPECT_EQ(b->popCreationDrawStyle(), DrawStyle()) << "an empty stack gives the default";
-    RectNode plain = rect(0, 0);
-    plain.setDrawStyle(own);
-    b->addNode(plain);
+    EXPECT_EQ(scene->popCreationDrawStyle(), redFilled());
+    EXPECT_EQ(scene->getCreationDrawStyle(), DrawStyle());
+    EXPECT_EQ(scene->popCreationDrawStyle(), DrawStyle()) << "an empty stack gives the default";
+    scene->addNode(plain);
     EXPECT_EQ(plain.getDrawStyle(), own) << "with an empty stack a node keeps its own";
 }
 
-TEST_F(SceneBasics, RemovingFromTheWrongSceneOnlyCutsListeners)
+TEST_F(SceneBasics, RemovingFromTheWrongSceneOnlyCutsListenersAndDyingNodesLeaveNoEmitters)
 {
-    auto a = Scene::createScene(), b = Scene::createScene();
-    RectNode n = rect(0, 0);
-    a->addNode(n);
-    GLUV::Listener listener;
-    int calls = 0;
-    auto *changed = NodeEmitterTable::instance().text(NodeEmitterTable::TextChanged, n.getImpl(), true);
-    changed->connect(&listener, [&calls] { ++calls; });
-
-    EXPECT_FALSE(b->removeNode(n).isValid());
-    EXPECT_FALSE(b->removeNode(Node()).isValid());
-    EXPECT_EQ(n.getScene(), a.get());
-    EXPECT_EQ(listener.connectionCount(), 0);
-    EXPECT_EQ(NodeEmitterTable::instance().text(NodeEmitterTable::TextChanged, n.getImpl(), false), nullptr);
-}
-
-TEST_F(SceneBasics, DyingNodesLeaveNoEmitters)
-{
+    auto other = Scene::createScene();
     NodeImpl *impl;
     {
-        RectNode n = rect(0, 0);
+        RectNode n = added(rect(0, 0));
         impl = n.getImpl();
+        GLUV::Listener listener;
+        auto *changed = NodeEmitterTable::instance().text(NodeEmitterTable::TextChanged, impl, true);
+        changed->connect(&listener, [] {});
+
+        EXPECT_FALSE(other->removeNode(n).isValid());
+        EXPECT_FALSE(other->removeNode(Node()).isValid());
+        EXPECT_EQ(n.getScene(), scene.get());
+        EXPECT_EQ(listener.connectionCount(), 0);
+        EXPECT_EQ(NodeEmitterTable::instance().text(NodeEmitterTable::TextChanged, impl, false), nullptr);
+
         NodeEmitterTable::instance().mouse(NodeEmitterTable::MousePress, impl, true);
         EXPECT_TRUE(NodeEmitterTable::instance().hasAny(impl));
+        n.remove();
     }
     EXPECT_FALSE(NodeEmitterTable::instance().hasAny(impl));
 }
 
 TEST_F(SceneBasics, BackgroundAndOverrideCursorSignalRealChangesOnly)
 {
-    auto scene = Scene::createScene();
     ScenePrivate *d = scene->getPrivate();
     GLUV::Listener listener;
     int backgrounds = 0, cursors = 0;
@@ -122,17 +111,17 @@ TEST_F(SceneBasics, ASceneAnnouncesItsEndThenFreesItsNodes)
     std::vector<std::string> said;
     WeakRef weak;
     {
-        auto scene = Scene::createScene();
+        auto doomed = Scene::createScene();
         {
             RectNode n = rect(0, 0);
             weak = n;
-            scene->addNode(n);
+            doomed->addNode(n);
         }
-        scene->getDestroyedEmitter().connect(&listener, [&] {
+        doomed->getDestroyedEmitter().connect(&listener, [&] {
             said.push_back(weak.isValid() ? "destroyed, node alive" : "destroyed, node gone");
         });
-        scene->getPrivate()->aboutToDestroy.connect(&listener, [&] { said.push_back("about to destroy"); });
-        EXPECT_EQ(Scene::of(scene->getPrivate()), scene.get());
+        doomed->getPrivate()->aboutToDestroy.connect(&listener, [&] { said.push_back("about to destroy"); });
+        EXPECT_EQ(Scene::of(doomed->getPrivate()), doomed.get());
     }
     EXPECT_EQ(said, (std::vector<std::string>{"destroyed, node alive", "about to destroy"}));
     EXPECT_FALSE(weak.isValid());

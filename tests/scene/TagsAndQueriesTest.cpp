@@ -8,37 +8,30 @@ using namespace VOR2::test;
 
 using TagsAndQueries = SceneTest;
 
-TEST_F(TagsAndQueries, TagsAreASetInInsertionOrder)
-{
-    RectNode n = rect(0, 0);
-    n.addTag("a");
-    n.addTag("b");
-    n.addTag("a");
-    EXPECT_EQ(n.getTags(), (GLOX::GList<GLOX::StringID>{"a", "b"}));
-    EXPECT_TRUE(n.hasTag("b"));
-    n.removeTag("a");
-    EXPECT_FALSE(n.hasTag("a"));
-    n.removeAllTags();
-    EXPECT_TRUE(n.getTags().isEmpty());
-}
-
-TEST_F(TagsAndQueries, DescendantSearchIsDepthFirstAndLeavesOutTheStart)
+TEST_F(TagsAndQueries, TagsAreASetAndDescendantSearchIsDepthFirstLeavingOutTheStart)
 {
     RectNode root = rect(0, 0), a = rect(0, 0), a1 = rect(0, 0), b = rect(0, 0);
+    a.addTag("t");
+    a.addTag("u");
+    a.addTag("t");
+    EXPECT_EQ(a.getTags(), (GLOX::GList<GLOX::StringID>{"t", "u"}));
     root.addTag("t");
     a.setParent(root);
     a1.setParent(a);
     b.setParent(root);
-    for (Node const &n : {Node(a), Node(a1), Node(b)}) n.addTag("t");
+    for (Node const &n : {Node(a1), Node(b)}) n.addTag("t");
     EXPECT_EQ(root.getDescendantsWithTag("t"), (GLOX::GList<Node>{a, a1, b}));
     EXPECT_EQ(root.getChildrenWithTag("t"), (GLOX::GList<Node>{a, b}));
     a.removeTag("t");
+    EXPECT_FALSE(a.hasTag("t"));
+    EXPECT_TRUE(a.hasTag("u"));
     EXPECT_EQ(root.getDescendantsWithTag("t"), (GLOX::GList<Node>{a1, b}));
+    a.removeAllTags();
+    EXPECT_TRUE(a.getTags().isEmpty());
 }
 
 TEST_F(TagsAndQueries, SceneTagSearchNeverAnswersTopLevelNodes)
 {
-    auto scene = Scene::createScene();
     RectNode top = rect(0, 0), child = rect(0, 0);
     top.addTag("t");
     scene->addNode(top);
@@ -50,9 +43,7 @@ TEST_F(TagsAndQueries, SceneTagSearchNeverAnswersTopLevelNodes)
 
 TEST_F(TagsAndQueries, SpatialQueriesFollowTheNodesOutlines)
 {
-    auto scene = Scene::createScene();
-    RectNode low = rect(0, 0, 100, 100), high = rect(50, 50, 100, 100), far = rect(500, 500);
-    for (Node const &n : {Node(low), Node(high), Node(far)}) scene->addNode(n);
+    RectNode low = added(rect(0, 0, 100, 100)), high = added(rect(50, 50, 100, 100)), far = added(rect(500, 500));
 
     EXPECT_EQ(scene->getNodeAt({75, 75}), high);
     EXPECT_EQ(scene->getNodeAt({25, 25}), low);
@@ -70,9 +61,7 @@ TEST_F(TagsAndQueries, SpatialQueriesFollowTheNodesOutlines)
 
 TEST_F(TagsAndQueries, TransformedParentsCarryTheirChildrensHitAreas)
 {
-    auto scene = Scene::createScene();
-    RectNode parent = rect(0, 0, 10, 10), child = rect(20, 0, 10, 10);
-    scene->addNode(parent);
+    RectNode parent = added(rect(0, 0, 10, 10)), child = rect(20, 0, 10, 10);
     child.setParent(parent);
     EXPECT_EQ(scene->getNodeAt({25, 5}), child);
     parent.rotateDegrees(90);
@@ -84,10 +73,7 @@ TEST_F(TagsAndQueries, TransformedParentsCarryTheirChildrensHitAreas)
 
 TEST_F(TagsAndQueries, SelectionTakesOnlySelectableNodes)
 {
-    auto scene = Scene::createScene();
-    RectNode a = rect(0, 0, 10, 10), b = rect(20, 0, 10, 10), child = rect(2, 2, 2, 2);
-    scene->addNode(a);
-    scene->addNode(b);
+    RectNode a = added(rect(0, 0, 10, 10)), b = added(rect(20, 0, 10, 10)), child = rect(2, 2, 2, 2);
     child.setParent(a);
     scene->selectAll();
     EXPECT_TRUE(scene->getAllSelectedNodes().isEmpty()) << "new nodes are not selectable";

@@ -12,16 +12,11 @@ protected:
     void SetUp() override
     {
         SceneTest::SetUp();
-        scene = Scene::createScene();
-        for (int i = 0; i < 4; ++i) {
-            nodes.append(rect(0, 0));
-            scene->addNode(nodes.last());
-        }
+        for (int i = 0; i < 4; ++i) nodes.append(added(rect(0, 0)));
     }
     void TearDown() override
     {
         nodes.clear();
-        scene.reset();
         SceneTest::TearDown();
     }
     std::vector<double> zs() const
@@ -38,26 +33,26 @@ protected:
         return pending.keys();
     }
 
-    GLOX::Holder<Scene> scene;
     GLOX::GList<Node> nodes;
 };
 } // namespace
 
-TEST_F(ZOrder, AddingStacksEachNewNodeOnTop)
+TEST_F(ZOrder, AddingStacksOnTopAndNodesWithNowhereToBeStackedStay)
 {
     EXPECT_EQ(zs(), (std::vector<double>{1, 2, 3, 4}));
     EXPECT_EQ(range().highest, 4);
     EXPECT_EQ(scene->getNodeAt({5, 5}), nodes[3]);
-}
 
-TEST_F(ZOrder, UnattachedNodesHaveNoOrder)
-{
-    RectNode loose = rect(0, 0);
+    RectNode loose = rect(0, 0); // unattached: no order
     EXPECT_EQ(loose.getZValue(), 0);
     loose.setZValue(7);
     loose.toTop();
     loose.placeAbove(nodes[0]);
     EXPECT_EQ(loose.getZValue(), 0);
+    // List forms ignore a missing first entry.
+    Node::toTop(GLOX::GList<Node>{Node(), nodes[0]});
+    Node::toTop(GLOX::GList<Node>{});
+    EXPECT_EQ(zs(), (std::vector<double>{1, 2, 3, 4}));
 }
 
 TEST_F(ZOrder, SetZValueWidensTheRange)
@@ -145,13 +140,6 @@ TEST_F(ZOrder, ListEnsureFormsMoveOnlyTheMembersOnTheWrongSide)
     double highest = range().highest;
     Node::ensureAbove(GLOX::GList<Node>{nodes[3]}, nodes[0]);
     EXPECT_EQ(range().highest, highest) << "nothing to move, nothing changes";
-}
-
-TEST_F(ZOrder, ListFormsIgnoreAMissingFirstEntry)
-{
-    Node::toTop(GLOX::GList<Node>{Node(), nodes[0]});
-    Node::toTop(GLOX::GList<Node>{});
-    EXPECT_EQ(zs(), (std::vector<double>{1, 2, 3, 4}));
 }
 
 TEST_F(ZOrder, ChildrenStackInTheirParentsRange)

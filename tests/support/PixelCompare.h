@@ -5,19 +5,14 @@
 #include <QColor>
 #include <QImage>
 #include <gtest/gtest.h>
-#include <string>
 
 namespace VOR2::test {
 
 // A premultiplied ARGB image of w by h, fully transparent.
 QImage transparentImage(int w, int h);
 
-// True when every channel of the pixel at (x, y) is within `tolerance`
-// of `expected`; `why` receives a readable difference otherwise.
-bool pixelMatches(QImage const &image, int x, int y, QColor const &expected, int tolerance = 0,
-                  std::string *why = nullptr);
-
-// The same as an assertion: EXPECT_TRUE(pixelIs(image, x, y, colour)).
+// Success when every channel of the pixel at (x, y) is within `tolerance`
+// of `expected`: EXPECT_TRUE(pixelIs(image, x, y, colour)).
 ::testing::AssertionResult pixelIs(QImage const &image, int x, int y, QColor const &expected, int tolerance = 2);
 
 } // namespace VOR2::test

@@ -36,15 +36,31 @@ inline int pendingKind(Scene &scene, Node const &node)
     return it == pending.end() ? -1 : int(*it);
 }
 
-// Checks that no node outlives a test body.
+// Gives each test a scene, and checks that no node outlives the test body
+// and that scene.
 class SceneTest : public ::testing::Test {
 protected:
     void SetUp() override
     {
         runHostLoopTurn();
         m_liveAtStart = liveNodeCount();
+        scene = Scene::createScene();
     }
-    void TearDown() override { EXPECT_EQ(liveNodeCount(), m_liveAtStart) << "nodes leaked or died twice"; }
+    void TearDown() override
+    {
+        scene.reset();
+        EXPECT_EQ(liveNodeCount(), m_liveAtStart) << "nodes leaked or died twice";
+    }
+
+    // Adds `node` to the test's scene and hands it back.
+    template <typename N>
+    N added(N node)
+    {
+        scene->addNode(node);
+        return node;
+    }
+
+    GLOX::Holder<Scene> scene;
 
 private:
     int m_liveAtStart = 0;

@@ -5,17 +5,6 @@
 
 using namespace GLOX;
 
-TEST(Gradient, DefaultHasNoQtGradient)
-{
-    Gradient g;
-    EXPECT_FALSE(g.isValid());
-    EXPECT_EQ(g.getGradient(), nullptr);
-    EXPECT_EQ(g, Gradient());
-    g.addStop(0.5, Color());
-    EXPECT_NE(g, Gradient());
-    EXPECT_EQ(g.getGradient(), nullptr);
-}
-
 TEST(Gradient, BuildsTheMatchingQtGradient)
 {
     Gradient lin = Gradient::linear({0, 0}, {100, 0});
@@ -53,6 +42,12 @@ TEST(Gradient, BuildsTheMatchingQtGradient)
 
 TEST(Gradient, BuiltGradientFollowsChangesAndSurvivesCopies)
 {
+    Gradient none; // no type: no Qt gradient, stops or not
+    EXPECT_FALSE(none.isValid());
+    none.addStop(0.5, Color());
+    EXPECT_EQ(none.getGradient(), nullptr);
+    EXPECT_NE(none, Gradient());
+
     Gradient g = Gradient::linear({0, 0}, {1, 1});
     g.addStop(0, Color());
     QGradient const *first = g.getGradient();
