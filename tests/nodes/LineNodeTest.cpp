@@ -9,6 +9,7 @@
 #include <Scene>
 
 #include "nodes/LineNodeImpl.h"
+#include "support/NodeStyles.h"
 #include "support/PaintNode.h"
 #include "support/SceneFixture.h"
 
@@ -21,10 +22,6 @@ using P = GLOX::GLPoint<double>;
 using R = GLOX::GLRect<double>;
 
 namespace {
-Stroke widthStroke(double w, StrokeStyle style = SolidLine, StrokeCapStyle cap = FlatCap)
-{
-    return Stroke(GLOX::Color(), w, style, cap, MiterJoin, ConstantLodScale::instance());
-}
 
 // An arrow-head stand-in: a small square whose local origin is its centre.
 RectNode head() { return RectNode(R(-1, -1, 2, 2)); }
@@ -44,7 +41,7 @@ TEST_F(LineNodeHitTest, ToleranceAndTheWiderHitBandApplyOnlyOnAScene)
     auto *impl = line.getValidLineNodeImpl();
     // Off a scene: the hairline, one device pixel at scale 2.
     EXPECT_NEAR(impl->computeHitBounds(2.0).boundingRect().height, 0.25, 1e-9);
-    line.setStroke(widthStroke(1.0));
+    line.setStroke(constantStroke(1.0));
     EXPECT_TRUE(line.contains(P(5, 0.9)));
     EXPECT_FALSE(line.contains(P(5, 1.0)));
     EXPECT_TRUE(line.contains(P(50, -0.5))) << "the infinite line, not the segment";
@@ -65,7 +62,7 @@ TEST(LineNode, OutlineFollowsCapAndWidthEvenWithoutPen)
 {
     LineNode line(P(0, 0), P(10, 0));
     auto *impl = line.getValidLineNodeImpl();
-    line.setStroke(widthStroke(2.0, NoStroke, SquareCap));
+    line.setStroke(constantStroke(2.0, NoStroke, SquareCap));
     R r = impl->computeStrokedOutline(1.0).boundingRect();
     EXPECT_NEAR(r.x, -1.0, 1e-9);
     EXPECT_NEAR(r.right(), 11.0, 1e-9);
@@ -96,7 +93,7 @@ TEST(LineNode, DecorationsFollowTheEndsPointingOutward)
 TEST(LineNode, BackoffShortensTheDrawnLine)
 {
     LineNode line(P(4.5, 2), P(4.5, 20));
-    line.setStroke(widthStroke(1.0));
+    line.setStroke(constantStroke(1.0));
     auto drawnLength = [&] { return paintedAlong(paintNodeAtScale(line, 1.0, 8, 24), {4, 0}, {0, 1}); };
     int full = drawnLength();
     auto backingOff = [](double backoff) {

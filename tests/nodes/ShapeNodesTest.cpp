@@ -9,6 +9,7 @@
 #include <ShapeNode>
 
 #include "nodes/StylePainter.h"
+#include "support/NodeStyles.h"
 #include "support/PaintNode.h"
 
 #include <gtest/gtest.h>
@@ -19,10 +20,6 @@ using R = GLOX::GLRect<double>;
 using P = GLOX::GLPoint<double>;
 
 namespace {
-Stroke strokeOf(double width, StrokeStyle style = SolidLine, StrokeCapStyle cap = FlatCap)
-{
-    return Stroke(GLOX::Color(), width, style, cap, MiterJoin, ConstantLodScale::instance());
-}
 
 QPainterPath rectPath(R const &r)
 {
@@ -34,10 +31,10 @@ QPainterPath rectPath(R const &r)
 
 TEST(StylePainter, ThinLinesAreThoseBelowOneDevicePixel)
 {
-    EXPECT_TRUE(isThinLine(penForStroke(strokeOf(0.5), 1.0), 1.0));
-    EXPECT_FALSE(isThinLine(penForStroke(strokeOf(1.0), 1.0), 1.0)) << "exactly one pixel is not thin";
-    EXPECT_FALSE(isThinLine(penForStroke(strokeOf(0.5, NoStroke), 1.0), 1.0));
-    QPen cosmetic = penForStroke(strokeOf(0.5), 1.0);
+    EXPECT_TRUE(isThinLine(penForStroke(constantStroke(0.5), 1.0), 1.0));
+    EXPECT_FALSE(isThinLine(penForStroke(constantStroke(1.0), 1.0), 1.0)) << "exactly one pixel is not thin";
+    EXPECT_FALSE(isThinLine(penForStroke(constantStroke(0.5, NoStroke), 1.0), 1.0));
+    QPen cosmetic = penForStroke(constantStroke(0.5), 1.0);
     cosmetic.setCosmetic(true);
     EXPECT_FALSE(isThinLine(cosmetic, 1.0));
     // A hairline is one device pixel at every scale, hence never thin.
@@ -58,10 +55,10 @@ TEST(StylePainter, StyleMappingAndAntialiasing)
     QImage image = transparentImage(4, 4);
     QPainter painter(&image);
     DrawStyle style;
-    style.setStroke(strokeOf(0.5));
+    style.setStroke(constantStroke(0.5));
     applyDrawStyle(&painter, style, 1.0);
     EXPECT_TRUE(painter.testRenderHint(QPainter::Antialiasing)) << "thin lines are smoothed even when not asked";
-    style.setStroke(strokeOf(1.0));
+    style.setStroke(constantStroke(1.0));
     applyDrawStyle(&painter, style, 1.0);
     EXPECT_FALSE(painter.testRenderHint(QPainter::Antialiasing));
     style.setIsAntiAliased(true);
@@ -80,7 +77,7 @@ TEST(ShapeNodes, StrokedOutlineGrowsByHalfTheWidthAtTheScale)
         char const *kind = node.getFullyQualifiedTcosTypeName();
         auto outline = [&] { return node.getImpl()->computeStrokedOutline(4.0).boundingRect(); };
         EXPECT_NEAR(outline().x, 19.875, 1e-3) << kind << ": a hairline is a quarter unit at scale 4";
-        node.setStroke(strokeOf(2.0));
+        node.setStroke(constantStroke(2.0));
         EXPECT_NEAR(outline().x, 19.75, 1e-3) << kind;
         EXPECT_NEAR(outline().right(), 30.25, 1e-3) << kind;
         node.setStroke(Stroke::NoStroke());
@@ -95,9 +92,9 @@ TEST(ShapeNodes, ShapeOutlineUsesTheStrokesCapAndAnEmptyShapeLeavesThePainterUnt
     segment.lineTo(10, 0);
     ShapeNode n{GLOX::Shape(segment)};
     auto right = [&] { return n.getImpl()->computeStrokedOutline(1.0).boundingRect().right(); };
-    n.setStroke(strokeOf(2.0, SolidLine, FlatCap));
+    n.setStroke(constantStroke(2.0, SolidLine, FlatCap));
     EXPECT_NEAR(right(), 10.0, 1e-9);
-    n.setStroke(strokeOf(2.0, SolidLine, SquareCap));
+    n.setStroke(constantStroke(2.0, SolidLine, SquareCap));
     EXPECT_NEAR(right(), 11.0, 1e-9);
 
     ShapeNode empty;

@@ -1,28 +1,20 @@
 // Renders outside the views at scales of their own must not disturb what
 // nodes keep for a view, nor be disturbed by it.
 
+#include "support/NodeStyles.h"
 #include "support/PixelCompare.h"
 #include "support/SceneFixture.h"
 
 using namespace VOR2;
 using namespace VOR2::test;
 
-namespace {
 using RenderScale = SceneTest;
-
-RectNode solid(GLOX::GLRect<double> const &r, GLOX::Color color)
-{
-    RectNode n(r);
-    n.setDrawStyle(DrawStyle(Stroke::NoStroke(), Fill(color)));
-    return n;
-}
-} // namespace
 
 TEST_F(RenderScale, CachedImagesAreNeverReusedAtAnotherScale)
 {
     auto scene = Scene::createScene();
-    RectNode parent = solid({0, 0, 10, 10}, GLOX::Color(0, 0, 1));
-    RectNode child = solid({0, 0, 10, 10}, GLOX::Color(1, 0, 0));
+    RectNode parent = solidRect({0, 0, 10, 10}, Qt::blue);
+    RectNode child = solidRect({0, 0, 10, 10}, Qt::red);
     child.setCacheType(CacheType::Self);
     scene->addNode(parent);
     child.setParent(parent);
@@ -37,7 +29,7 @@ TEST_F(RenderScale, CachedImagesAreNeverReusedAtAnotherScale)
 
 TEST_F(RenderScale, GeometryRunningUpAndLeftRendersToo)
 {
-    RectNode n = solid({10, 10, -10, -10}, GLOX::Color(0, 1, 0));
+    RectNode n = solidRect({10, 10, -10, -10}, Qt::green);
     QImage image = *n.render(CacheType::Self, 2.0)->asQImage();
     ASSERT_EQ(image.size(), QSize(22, 22));
     EXPECT_TRUE(pixelIs(image, 10, 10, QColor(0, 255, 0)));

@@ -5,6 +5,7 @@
 #include <GlobalViewerInfo>
 
 #include "scene/SceneRegionRenderer.h"
+#include "support/NodeStyles.h"
 #include "support/PixelCompare.h"
 #include "support/SceneFixture.h"
 
@@ -18,13 +19,6 @@ using namespace VOR2::test;
 
 namespace {
 using SceneRendering = SceneTest;
-
-RectNode filledRect(double x, double y, double w, double h, GLOX::Color color)
-{
-    RectNode n = rect(x, y, w, h);
-    n.setDrawStyle(DrawStyle(Stroke::NoStroke(), Fill(color)));
-    return n;
-}
 
 int offscreenRepaints() { return Diagnostics::intValue("Scene:Node offscreen repaint count"); }
 
@@ -48,8 +42,8 @@ TEST_F(SceneRendering, AnEmptySceneIsTwiceTheMarginOfBackgroundOverWhite)
 
 TEST_F(SceneRendering, TheImageCoversTheBoundsPlusTheMarginOneUnitAPixel)
 {
-    scene->addNode(filledRect(10, 10, 20, 10, GLOX::Color(1, 0, 0)));
-    RectNode b = added(filledRect(0, 0, 5, 5, GLOX::Color(0, 1, 0)));
+    scene->addNode(solidRect({10, 10, 20, 10}, Qt::red));
+    RectNode b = added(solidRect({0, 0, 5, 5}, Qt::green));
     b.setPosition({40.5, 30});
     EXPECT_EQ(scene->getBounds(), (GLOX::GLRect<double>(10, 10, 35.5, 25)));
 
@@ -70,8 +64,8 @@ TEST_F(SceneRendering, TheImageCoversTheBoundsPlusTheMarginOneUnitAPixel)
 TEST_F(SceneRendering, PainterAndPrinterFormsFillNothing)
 {
     scene->setBackground(Background(GLOX::Color(1, 1, 0)));
-    scene->addNode(filledRect(0, 0, 50, 50, GLOX::Color(0, 0, 1)));
-    scene->addNode(filledRect(100, 100, 50, 50, GLOX::Color(0, 0, 1)));
+    scene->addNode(solidRect({0, 0, 50, 50}, Qt::blue));
+    scene->addNode(solidRect({100, 100, 50, 50}, Qt::blue));
 
     QImage onPainter = transparentImage(150, 150);
     {
@@ -110,8 +104,8 @@ TEST_F(SceneRendering, PainterAndPrinterFormsFillNothing)
 
 TEST_F(SceneRendering, ANodeRendersAloneOrWithItsSubtree)
 {
-    RectNode parent = filledRect(0, 0, 10, 10, GLOX::Color(1, 0, 0));
-    RectNode child = filledRect(0, 0, 4, 4, GLOX::Color(0, 0, 1));
+    RectNode parent = solidRect({0, 0, 10, 10}, Qt::red);
+    RectNode child = solidRect({0, 0, 4, 4}, Qt::blue);
     child.setParent(parent);
     child.setPosition({12, 0});
 
@@ -129,7 +123,7 @@ TEST_F(SceneRendering, ANodeRendersAloneOrWithItsSubtree)
 
 TEST_F(SceneRendering, ACachingNodeRebuildsItsImageOnlyWhenWhollyExposed)
 {
-    RectNode n = filledRect(0, 0, 20, 20, GLOX::Color(1, 0, 0));
+    RectNode n = solidRect({0, 0, 20, 20}, Qt::red);
     n.setCacheType(CacheType::Self);
     scene->addNode(n);
     int start = offscreenRepaints();
@@ -161,7 +155,7 @@ TEST_F(SceneRendering, ACachingNodeRebuildsItsImageOnlyWhenWhollyExposed)
 
 TEST_F(SceneRendering, TheRegionRendererClearsDrawsAndFlashes)
 {
-    scene->addNode(filledRect(0, 0, 10, 10, GLOX::Color(1, 0, 0)));
+    scene->addNode(solidRect({0, 0, 10, 10}, Qt::red));
     QImage layer(20, 20, QImage::Format_ARGB32_Premultiplied);
     layer.fill(QColor(0, 0, 255));
     {

@@ -8,6 +8,7 @@
 
 #include "GLBridge/Bridge.h"
 #include "GLServices/HostRunLoop.h"
+#include "support/NodeStyles.h"
 #include "support/PixelCompare.h"
 #include <HostRuntime>
 #include "widget/QtCanvas.h"
@@ -26,12 +27,6 @@ using namespace VOR2::test;
 using namespace std::chrono_literals;
 
 namespace {
-RectNode solid(double x, double y, double w, double h, QColor color)
-{
-    RectNode n(GLOX::GLRect<double>(x, y, w, h));
-    n.setDrawStyle(DrawStyle(Stroke::NoStroke(), Fill(GLOX::fromQColor(color))));
-    return n;
-}
 
 bool pumpUntil(std::function<bool()> const &done) { return HostRuntime::loop().runUntil(done, 5000ms); }
 
@@ -51,7 +46,7 @@ void showWindow(GLCanvas &canvas, int w, int h)
 TEST(Canvas, GettersSeeARequestBeforeAnyRedraw)
 {
     auto scene = Scene::createScene();
-    scene->addNode(solid(0, 0, 100, 100, Qt::red));
+    scene->addNode(solidRect({0, 0, 100, 100}, Qt::red));
     GLCanvas canvas;
     canvas.setScene(scene.get());
     canvas.setInitialSceneOriginAndScale({0, 0}, 1.0);
@@ -71,8 +66,8 @@ TEST(Canvas, GettersSeeARequestBeforeAnyRedraw)
 TEST(Canvas, AWindowShowsTheSceneRenderedOnTheHostThread)
 {
     auto scene = Scene::createScene();
-    scene->addNode(solid(0, 0, 40, 40, Qt::red));
-    scene->addNode(solid(60, 0, 40, 40, Qt::blue));
+    scene->addNode(solidRect({0, 0, 40, 40}, Qt::red));
+    scene->addNode(solidRect({60, 0, 40, 40}, Qt::blue));
     GLCanvas canvas;
     ASSERT_NE(canvas.getWidget(), nullptr) << "the GUI thread makes the widget";
     canvas.setScene(scene.get());
@@ -115,7 +110,7 @@ TEST(Canvas, AWindowShowsTheSceneRenderedOnTheHostThread)
 TEST(Canvas, TheMarqueeIsDrawnOverTheLayers)
 {
     auto scene = Scene::createScene();
-    scene->addNode(solid(0, 0, 100, 100, Qt::red));
+    scene->addNode(solidRect({0, 0, 100, 100}, Qt::red));
     GLCanvas canvas;
     canvas.setScene(scene.get());
     showWindow(canvas, 140, 140);

@@ -6,6 +6,7 @@
 #include <Scene>
 
 #include "scene/ScenePrivate.h"
+#include "support/NodeStyles.h"
 #include "support/PixelCompare.h"
 #include "widget/LayerPainter.h"
 #include <HostRuntime>
@@ -19,12 +20,6 @@ using namespace VOR2;
 using namespace VOR2::test;
 
 namespace {
-RectNode solid(double x, double y, double w, double h, QColor color)
-{
-    RectNode n(GLOX::GLRect<double>(x, y, w, h));
-    n.setDrawStyle(DrawStyle(Stroke::NoStroke(), Fill(GLOX::fromQColor(color))));
-    return n;
-}
 
 class SceneServerTest : public ::testing::Test {
 protected:
@@ -61,7 +56,7 @@ protected:
 
 TEST_F(SceneServerTest, AViewRequestRendersTheVisibleScene)
 {
-    RectNode n = solid(10, 10, 20, 20, Qt::red);
+    RectNode n = solidRect({10, 10, 20, 20}, Qt::red);
     scene->addNode(n);
     show(2, 0, 0);
     EXPECT_TRUE(pixelIs(layerImage(), 30, 30, Qt::red));
@@ -72,7 +67,7 @@ TEST_F(SceneServerTest, AViewRequestRendersTheVisibleScene)
 
 TEST_F(SceneServerTest, OnlyTheLatestPendingRequestApplies)
 {
-    scene->addNode(solid(0, 0, 10, 10, Qt::red));
+    scene->addNode(solidRect({0, 0, 10, 10}, Qt::red));
     server.setPendingViewRequest({2, 0, 0, 100, 100});
     server.setPendingViewRequest({3, 1, 1, 100, 100});
     EXPECT_EQ(server.getViewInfo().scale, 3) << "getters see the request before any redraw";
@@ -92,9 +87,9 @@ TEST_F(SceneServerTest, AnEmptySceneIsShownAtTheIdentityView)
 
 TEST_F(SceneServerTest, MovingANodeRedrawsItsOldAndNewAreaOnly)
 {
-    RectNode moving = solid(10, 10, 10, 10, Qt::red);
+    RectNode moving = solidRect({10, 10, 10, 10}, Qt::red);
     scene->addNode(moving);
-    scene->addNode(solid(70, 70, 10, 10, Qt::blue));
+    scene->addNode(solidRect({70, 70, 10, 10}, Qt::blue));
     show(1, 0, 0);
     settle();
     takeDirty();
@@ -113,7 +108,7 @@ TEST_F(SceneServerTest, MovingANodeRedrawsItsOldAndNewAreaOnly)
 
 TEST_F(SceneServerTest, RemovedAndHiddenNodesLeaveNoTrace)
 {
-    RectNode gone = solid(10, 10, 10, 10, Qt::red), hidden = solid(50, 50, 10, 10, Qt::blue);
+    RectNode gone = solidRect({10, 10, 10, 10}, Qt::red), hidden = solidRect({50, 50, 10, 10}, Qt::blue);
     scene->addNode(gone);
     scene->addNode(hidden);
     show(1, 0, 0);
@@ -130,7 +125,7 @@ TEST_F(SceneServerTest, RemovedAndHiddenNodesLeaveNoTrace)
 
 TEST_F(SceneServerTest, AScrollRepaintsTheWholeViewportAndAResizeStartsAfresh)
 {
-    scene->addNode(solid(0, 0, 300, 300, Qt::red));
+    scene->addNode(solidRect({0, 0, 300, 300}, Qt::red));
     show(1, 0, 0);
     takeDirty();
     show(1, 20, 0);
@@ -143,9 +138,9 @@ TEST_F(SceneServerTest, AScrollRepaintsTheWholeViewportAndAResizeStartsAfresh)
 
 TEST_F(SceneServerTest, LayersComposeInIndexOrderOverTheirBackgrounds)
 {
-    scene->addNode(solid(0, 0, 50, 50, Qt::red));
+    scene->addNode(solidRect({0, 0, 50, 50}, Qt::red));
     auto upper = Scene::createScene();
-    upper->addNode(solid(25, 25, 50, 50, Qt::blue));
+    upper->addNode(solidRect({25, 25, 50, 50}, Qt::blue));
     stack.insertLayer(1, GLOX::Holder<Layer>(new Layer(upper.get(), "upper")));
     scene->setBackground(Background(GLOX::Color(1, 1, 0)));
     show(1, 0, 0);
