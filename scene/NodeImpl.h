@@ -34,6 +34,9 @@ class QWidget;
 
 namespace VOR2 {
 
+class FocusEvent;
+class KeyEvent;
+class MouseEvent;
 class NodeUpdateHandler;
 class ScenePrivate;
 
@@ -66,6 +69,20 @@ public:
     ScenePrivate *getScenePrivate() const;
     // The element behind a Qt item of a scene; null for null.
     static NodeImpl *fromItem(QGraphicsItem const *item);
+
+    // --- Input ----------------------------------------------------------
+    // Each sends the event on the node's signal of that name, if anybody
+    // ever connected to it; otherwise nothing happens. Host thread.
+    virtual void emitMousePressEvent(MouseEvent &event);
+    virtual void emitMouseMoveEvent(MouseEvent &event);
+    virtual void emitMouseReleaseEvent(MouseEvent &event);
+    virtual void emitHoverEnterEvent(MouseEvent &event);
+    virtual void emitHoverExitEvent(MouseEvent &event);
+    virtual void emitHoverMoveEvent(MouseEvent &event);
+    virtual void emitKeyPressEvent(KeyEvent &event);
+    virtual void emitKeyReleaseEvent(KeyEvent &event);
+    virtual void emitFocusOutEvent(FocusEvent &event);
+    virtual void emitFocusInEvent(FocusEvent &event);
 
     // --- Tree -----------------------------------------------------------
     NodeImpl *getParentImpl() const;

@@ -21,11 +21,8 @@ GLOX::Holder<Scene> Scene::createScene() { return GLOX::Holder<Scene>(new Scene)
 
 Scene *Scene::of(ScenePrivate const *d) { return d ? d->getScene() : nullptr; }
 
-Scene::Scene() : d(new ScenePrivate(this))
-{
-    // The scene's tools join here: the factory's constructors and the
-    // default stack arrive with the tool stack.
-}
+// The private part sets up the tool factory and the default stack.
+Scene::Scene() : d(new ScenePrivate(this)) {}
 
 Scene::~Scene()
 {

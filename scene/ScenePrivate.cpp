@@ -1,5 +1,6 @@
 #include "scene/ScenePrivate.h"
 
+#include <Behavior>
 #include <Diagnostics>
 
 #include "scene/NodeEmitterTable.h"
@@ -20,6 +21,8 @@ ScenePrivate::ScenePrivate(Scene *scene) : m_scene(scene)
     setBackgroundBrush(QBrush(QColor(0, 0, 0, 0), Qt::SolidPattern));
     // Node bounds follow each view's scale, so no spatial index can hold.
     setItemIndexMethod(QGraphicsScene::NoIndex);
+    initializeToolFactory();
+    initializeToolStack();
 }
 
 ScenePrivate::~ScenePrivate() = default;
@@ -67,7 +70,7 @@ Node ScenePrivate::removeNodeImpl(NodeImpl *node)
 void ScenePrivate::markRemovedSubtree(NodeImpl *node)
 {
     scheduleViewUpdate();
-    // A behaviour leaves the tool stack with its node, once tools exist.
+    if (Behavior *behavior = node->getBehavior()) removeTool(behavior);
     m_pendingChanges[node] = PendingChangeKind::Removed;
     for (NodeImpl *child : node->getChildImpls()) markRemovedSubtree(child);
 }
@@ -75,6 +78,7 @@ void ScenePrivate::markRemovedSubtree(NodeImpl *node)
 void ScenePrivate::destroyScene()
 {
     for (NodeImpl *node : getTopLevelNodeImpls()) removeNodeImpl(node);
+    clearToolStack();
 }
 
 // ----------------------------------------------------------------- changes

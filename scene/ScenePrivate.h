@@ -9,11 +9,22 @@
 // "_q_emitUpdated"; when the host loop runs it, Qt emits
 // changed(QList<QRectF>), and whoever draws the scene reads and clears the
 // pending changes. Removed entries hold the raw pointer of a node that may
-// be dead by then: read them by key only. Host thread only.
+// be dead by then: read them by key only.
+//
+// Input: every event the scene receives first makes the event's canvas the
+// current view (node caches and hit tests then answer for that view);
+// moves update the hovered node and leaving the canvas ends hover; then
+// the event goes to the tool stack, and only there. Nodes see input when a
+// tool passes it on (the pass* operations). Host thread only.
 
 #include <Background>
 #include <DrawStyle>
+#include <EventHandler>
+#include <IToolStack>
 #include <Node>
+#include <ToolFactory>
+#include <ToolStack>
+#include <WeakRef>
 
 #include "GLOX/Color.h"
 #include "GLOX/Containers.h"
@@ -33,7 +44,9 @@ class NodeImpl;
 class Scene;
 
 class ScenePrivate : public QGraphicsScene,
+                     public IToolStack,
                      public GLUV::Listener,
+                     public EventHandler,
                      public ZOrderingContainer,
                      public NodeUpdateHandler {
 public:
@@ -91,6 +104,52 @@ public:
     bool usesNodeSelection() const { return m_useNodeSelection; }
     void setUseNodeSelection(bool use) { m_useNodeSelection = use; }
 
+    // --- Tools ----------------------------------------------------------
+    void addTool(Tool *tool) override { m_toolStack.addTool(tool); }
+    void addTool(Tool *tool, GLOX::StringID const &role) override { m_toolStack.addTool(tool, role); }
+    void delegateToTool(Tool *tool, Event &event) override { m_toolStack.delegateToTool(tool, event); }
+    GLOX::StringID getUniqueToolRoleBasedOn(GLOX::StringID const &role) override
+    {
+        return m_toolStack.getUniqueToolRoleBasedOn(role);
+    }
+    bool hasTool(Tool *tool) const override { return m_toolStack.hasTool(tool); }
+    bool removeTool(Tool *tool) override { return m_toolStack.removeTool(tool); }
+    bool removeToolByRole(GLOX::StringID const &role) override { return m_toolStack.removeToolByRole(role); }
+    Tool *getToolByRole(GLOX::StringID const &role) const override { return m_toolStack.getToolByRole(role); }
+    GLOX::StringID getRoleByTool(Tool *tool) override { return m_toolStack.getRoleByTool(tool); }
+    void clearToolStack() override { m_toolStack.clearToolStack(); }
+    ToolStack &getToolStack() { return m_toolStack; }
+    ToolFactory &getToolFactory() { return m_toolFactory; }
+    // A new tool of the role, added under it; null for an unknown role.
+    Tool *addToolByRole(GLOX::StringID const &role);
+
+    // --- Input ----------------------------------------------------------
+    void handleMouseMoveEvent(MouseEvent &event) override;
+    void handleMousePressEvent(MouseEvent &event) override;
+    void handleMouseReleaseEvent(MouseEvent &event) override;
+    void handleMouseDoubleClickEvent(MouseEvent &event) override;
+    void handleUserDragInitEvent(MouseEvent &event) override;
+    void handleDragEnterEvent(DragEvent &event) override;
+    void handleDragLeaveEvent(WidgetEvent &event) override;
+    void handleDragEvent(DragEvent &event) override;
+    void handleDropEvent(DragEvent &event) override;
+    void handleFocusInEvent(FocusEvent &event) override;
+    void handleFocusOutEvent(FocusEvent &event) override;
+    void handleEnterCanvasEvent(WidgetEvent &event) override;
+    void handleLeaveCanvasEvent(WidgetEvent &event) override;
+    void handleContextMenuEvent(ContextMenuEvent &event) override;
+    void handleWheelEvent(MouseEvent &event) override;
+    void handleKeyPressEvent(KeyEvent &event) override;
+    void handleKeyReleaseEvent(KeyEvent &event) override;
+    Node getHoveredNode() const { return m_hoveredNode.promote(); }
+    // For tools: the topmost node at the event's scene position gets the
+    // event on its own signal.
+    void passMousePressEventToNode(MouseEvent &event);
+    void passMouseMoveEventToNode(MouseEvent &event);
+    void passMouseReleaseEventToNode(MouseEvent &event);
+    // For tools: the focus node gets the key if it is text.
+    void passKeyPressEventToNode(KeyEvent &event);
+
     // --- Signals --------------------------------------------------------
     GLUV::Emitter<void (*)()> aboutToDestroy{GLUV::SendAuto};
     GLUV::Emitter<void (*)(ScenePrivate *)> backgroundChanged{GLUV::SendAuto};
@@ -106,8 +165,21 @@ private:
     // Marks `node` and its subtree Removed.
     void markRemovedSubtree(NodeImpl *node);
     bool handledHere(NodeImpl const *node) const;
+    // Makes the event's canvas, if any, the current view, then hands the
+    // event to the tool stack's operation.
+    template <typename E>
+    void enter(E &event, void (ToolStack::*operation)(E &));
+    void updateHover(MouseEvent &event);
+    void endHover();
+    NodeImpl *nodeAt(GLOX::GLPoint<double> const &scenePos) const;
+    // The factory's constructors and the default stack of a new scene.
+    void initializeToolFactory();
+    void initializeToolStack();
 
     Scene *m_scene;
+    WeakRef m_hoveredNode;
+    ToolStack m_toolStack;
+    ToolFactory m_toolFactory;
     PendingChanges m_pendingChanges;
     bool m_debugRepaintRegion = false;
     GLOX::Color m_debugRepaintRegionColor{0.0, 1.0, 0.0, 0.5};

@@ -1,13 +1,14 @@
 #include <GLCanvas>
 #include <Scene>
 
+#include "widget/GLCanvasEmitters.h"
 #include "widget/GLCanvasPrivate.h"
 #include "widget/QtWidgetFactory.h"
 #include "widget/ViewGeometry.h"
 
 namespace VOR2 {
 
-GLCanvas::GLCanvas() : d(std::make_unique<GLCanvasPrivate>(this))
+GLCanvas::GLCanvas() : m_emitters(std::make_unique<GLCanvasEmitters>()), d(std::make_unique<GLCanvasPrivate>(this))
 {
     // The widget reaches back for the server: make it once d is set.
     d->widget = QtWidgetFactory::createWidgetFor(this);

@@ -3,10 +3,10 @@
 #include <Scene>
 
 #include "scene/ScenePrivate.h"
+#include "widget/GLCanvasEmitters.h"
+#include "widget/QtCanvas.h"
 #include "widget/QtWidgetFactory.h"
 
-#include <QMetaObject>
-#include <QWidget>
 
 namespace VOR2 {
 
@@ -36,6 +36,11 @@ void GLCanvasPrivate::post(std::optional<ViewRequest> const &request)
 
 void GLCanvasPrivate::onLayerAdded(int index)
 {
+    if (index == LayerStack::baseLayerIdx()) {
+        Scene *base = layerStack.getLayer(index)->getScene();
+        dispatcher.reset();
+        if (base) dispatcher = std::make_unique<EventDispatcher>(base, canvas->getEmitters());
+    }
     if (Scene *scene = layerStack.getLayer(index)->getScene())
         scene->getPrivate()->toolOverrideCursorChanged.connect(this, [this] { updateCursor(); },
                                                                GLUV::Thread::getCurrentThread());
@@ -44,21 +49,19 @@ void GLCanvasPrivate::onLayerAdded(int index)
 
 void GLCanvasPrivate::onLayerRemoved(int index)
 {
+    if (index == LayerStack::baseLayerIdx()) dispatcher.reset();
     if (Scene *scene = layerStack.getLayer(index)->getScene())
         scene->getPrivate()->toolOverrideCursorChanged.disconnect(this);
 }
 
 void GLCanvasPrivate::updateCursor()
 {
-    std::optional<QCursor> cursor;
-    for (int i = layerStack.getNumLayers() - 1; i >= 0 && !cursor; --i) {
+    GLOX::Cursor cursor;
+    for (int i = layerStack.getNumLayers() - 1; i >= 0 && !cursor.isValid(); --i) {
         Scene *scene = layerStack.getLayer(i)->getScene();
-        if (scene && scene->hasToolOverrideCursor()) cursor = scene->getToolOverrideCursor().toQCursor();
+        if (scene && scene->hasToolOverrideCursor()) cursor = scene->getToolOverrideCursor();
     }
-    if (!widget) return;
-    QWidget *w = widget;
-    QMetaObject::invokeMethod(w, [w, cursor] { cursor ? w->setCursor(*cursor) : w->unsetCursor(); },
-                              Qt::QueuedConnection);
+    if (widget) static_cast<QtCanvas *>(widget)->showToolCursor(cursor);
 }
 
 } // namespace VOR2

@@ -1,7 +1,8 @@
 #pragma once
 // GLCanvasPrivate: the host side of a canvas: its layer stack, its scene
-// server, the signal that wakes the server for a posted view request, and
-// the widget made for it on the GUI thread.
+// server, the signal that wakes the server for a posted view request, the
+// dispatcher of the base scene's input, and the widget made for it on the
+// GUI thread.
 
 #include <GLCanvas>
 #include <LayerStack>
@@ -9,8 +10,10 @@
 
 #include "GLUV/Emitter.h"
 #include "GLUV/Listener.h"
+#include "widget/EventDispatcher.h"
 #include "widget/SceneServer.h"
 
+#include <memory>
 #include <optional>
 
 class QWidget;
@@ -30,6 +33,8 @@ public:
     GLCanvas *canvas;
     LayerStack layerStack;
     SceneServer server; // after the stack: it detaches from it first
+    // Input of the base layer's scene; null while layer 0 has none.
+    std::unique_ptr<EventDispatcher> dispatcher;
     QWidget *widget = nullptr; // GUI thread object
 
 private:

@@ -1,18 +1,27 @@
 #pragma once
 // QtCanvas: the widget of a GLCanvas, made on the GUI thread by the
-// QtWidgetFactory: a SceneViewer of the canvas's scene server that also
-// arms a drag on a left press and announces it, from where the button went
-// down, once the pointer has moved past the drag distance and only if
-// somebody listens. Further input reaches the scene once events are wired
-// in.
+// QtWidgetFactory: a SceneViewer of the canvas's scene server that
+// broadcasts its input on the canvas's GLCanvasEmitters as foundation
+// event values (positions in viewport pixels), which the host thread turns
+// into library events for the base scene. Input it broadcasts is its own:
+// keys and the wheel no longer scroll, the tools decide.
+//
+// It also arms a drag on a left press and announces it, from where the
+// button went down, once the pointer has moved past the drag distance, and
+// only if somebody listens. Context menus asked for from the keyboard are
+// broadcast; a right button is input like any other, and the tools decide
+// whether it asks for a menu.
 
-#include "GLUV/Emitter.h"
 #include "widget/SceneViewer.h"
-#include "widget/UserDragStart.h"
+
+#include "GLOX/Cursor.h"
+#include "GLOX/GLWidgetEvents2.h"
+#include "GLUV/Emitter.h"
 
 namespace VOR2 {
 
 class GLCanvas;
+struct GLCanvasEmitters;
 
 class QtCanvas : public SceneViewer {
     Q_OBJECT
@@ -22,19 +31,41 @@ public:
     explicit QtCanvas(GLCanvas *canvas, QWidget *parent = nullptr);
 
     GLCanvas *canvas() const { return m_canvas; }
-
-    // Sent on the GUI thread, at most once per press.
-    GLUV::Emitter<void (*)(UserDragStart)> userDragInit{GLUV::SendAuto};
+    // Any thread: shows the cursor the scene's tools asked for, or unsets
+    // it for an invalid one, on the GUI thread in order of the calls.
+    void showToolCursor(GLOX::Cursor const &cursor) { m_toolCursor.send(cursor); }
 
 protected:
+    bool event(QEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
+    void mouseDoubleClickEvent(QMouseEvent *event) override;
+    void wheelEvent(QWheelEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void keyReleaseEvent(QKeyEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override;
+    void focusOutEvent(QFocusEvent *event) override;
+    void enterEvent(QEvent *event) override;
+    void leaveEvent(QEvent *event) override;
+    void dragEnterEvent(QDragEnterEvent *event) override;
+    void dragMoveEvent(QDragMoveEvent *event) override;
+    void dragLeaveEvent(QDragLeaveEvent *event) override;
+    void dropEvent(QDropEvent *event) override;
 
 private:
+    // Tells the canvas where the viewport is on the screen; before every
+    // broadcast, so that the host side reads the position of its event.
+    void reportPosition();
+    GLOX::GLMouseEvent2 toGL(QMouseEvent const *event, int rotation = 0) const;
+    GLOX::GLKeyEvent2 toGL(QKeyEvent const *event) const;
+    GLOX::GLDragEvent2 toGL(QDropEvent const *event) const;
+
     GLCanvas *m_canvas;
-    QPoint m_pressPos;
-    QPoint m_pressGlobalPos;
+    GLCanvasEmitters &m_emitters;
+    GLUV::Emitter<void (*)(GLOX::Cursor)> m_toolCursor{GLUV::SendAuto};
+    QPointF m_pressPos; // viewport pixels
+    QPointF m_pressGlobalPos;
     QPoint m_pressTopLevelPos;
     bool m_dragArmed = false;
 };

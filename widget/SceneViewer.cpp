@@ -113,20 +113,39 @@ void SceneViewer::scrollContentsBy(int dx, int dy)
     emitViewRequest(request);
 }
 
+void SceneViewer::routeMouse(QMouseEvent *event)
+{
+    switch (event->type()) {
+    case QEvent::MouseButtonPress: mousePressEvent(event); break;
+    case QEvent::MouseButtonRelease: mouseReleaseEvent(event); break;
+    case QEvent::MouseMove: mouseMoveEvent(event); break;
+    case QEvent::MouseButtonDblClick: mouseDoubleClickEvent(event); break;
+    default: break;
+    }
+    event->accept();
+}
+
 bool SceneViewer::event(QEvent *event)
 {
     switch (event->type()) {
-    // Mouse input goes straight to the handlers, past the scroll area's own.
-    case QEvent::MouseButtonPress: mousePressEvent(static_cast<QMouseEvent *>(event)); break;
-    case QEvent::MouseButtonRelease: mouseReleaseEvent(static_cast<QMouseEvent *>(event)); break;
-    case QEvent::MouseMove: mouseMoveEvent(static_cast<QMouseEvent *>(event)); break;
+    // Mouse input on the frame goes straight to the handlers, past the
+    // scroll area's own, in viewport pixels like the viewport's input.
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonRelease:
+    case QEvent::MouseMove:
+    case QEvent::MouseButtonDblClick: {
+        auto *m = static_cast<QMouseEvent *>(event);
+        QMouseEvent mapped(m->type(), m->localPos() - viewport()->pos(), m->windowPos(), m->screenPos(), m->button(),
+                           m->buttons(), m->modifiers(), m->source());
+        routeMouse(&mapped);
+        event->accept();
+        return true;
+    }
     // The scroll area lays out its children on a resize without telling
     // resizeEvent: the view must hear of it.
     case QEvent::Resize: resizeEvent(static_cast<QResizeEvent *>(event)); return QAbstractScrollArea::event(event);
     default: return QAbstractScrollArea::event(event);
     }
-    event->accept();
-    return true;
 }
 
 bool SceneViewer::viewportEvent(QEvent *event)
@@ -134,7 +153,8 @@ bool SceneViewer::viewportEvent(QEvent *event)
     switch (event->type()) {
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonRelease:
-    case QEvent::MouseMove: return SceneViewer::event(event);
+    case QEvent::MouseMove:
+    case QEvent::MouseButtonDblClick: routeMouse(static_cast<QMouseEvent *>(event)); return true;
     case QEvent::Paint: return QFrame::event(event);
     case QEvent::Resize: viewport()->update(); return false;
     default: return QAbstractScrollArea::viewportEvent(event);

@@ -3,7 +3,8 @@
 // copies the layer images its scene server publishes into the viewport,
 // keeps the scroll bars in step with the view, and turns scrolls and
 // resizes into view requests. It never touches a scene: everything it
-// reads, it reads from Rendering under its lock.
+// reads, it reads from Rendering under its lock. Its mouse handlers always
+// see viewport pixels, whether the press was on the viewport or the frame.
 
 #include <ViewRequest>
 
@@ -42,6 +43,8 @@ protected:
     bool viewportEvent(QEvent *event) override;
 
 private:
+    // Hands a mouse event in viewport pixels to its virtual handler.
+    void routeMouse(QMouseEvent *event);
     void renderingPublished(Rendering *rendering);
     void emitViewRequest(ViewRequest const &request);
     QSize viewportSize() const;

@@ -33,4 +33,18 @@ inline Qt::FocusReason GL2Qt(FocusReason r)
     return Qt::OtherFocusReason;
 }
 
+inline FocusReason Qt2GL(Qt::FocusReason r)
+{
+    switch (r) {
+    case Qt::MouseFocusReason: return MouseFocusReason;
+    case Qt::TabFocusReason: return TabFocusReason;
+    case Qt::BacktabFocusReason: return BacktabFocusReason;
+    case Qt::ActiveWindowFocusReason: return ActiveWindowFocusReason;
+    case Qt::PopupFocusReason: return PopupFocusReason;
+    case Qt::ShortcutFocusReason: return ShortcutFocusReason;
+    case Qt::MenuBarFocusReason: return MenuBarFocusReason;
+    default: return OtherFocusReason;
+    }
+}
+
 } // namespace GLOX

@@ -11,13 +11,9 @@
 #include "support/NodeStyles.h"
 #include "support/PixelCompare.h"
 #include <HostRuntime>
-#include "widget/QtCanvas.h"
 #include "widget/SceneServer.h"
-#include "GLUV/Listener.h"
 
 #include <QAbstractScrollArea>
-#include <QApplication>
-#include <QMouseEvent>
 #include <QScrollBar>
 #include <QWidget>
 #include <gtest/gtest.h>
@@ -130,41 +126,4 @@ TEST(Canvas, TheMarqueeIsDrawnOverTheLayers)
     EXPECT_GT(inside.red(), 150);
     canvas.setMarquee({});
     HostRuntime::bridge().runOnGui([widget] { widget->hide(); }, true);
-}
-
-TEST(Canvas, ADragStartsFromThePressOnceItHasGoneFarEnough)
-{
-    GLCanvas canvas;
-    auto *widget = static_cast<QtCanvas *>(canvas.getWidget());
-    GLUV::Listener listener;
-    std::vector<QPoint> starts;
-    int distance = 0;
-    HostRuntime::bridge().runOnGui([&] {
-        distance = QApplication::startDragDistance();
-        widget->userDragInit.connect(&listener, [&](UserDragStart s) { starts.push_back(s.pos); });
-    }, true);
-    auto mouse = [&](QEvent::Type type, QPoint p, Qt::MouseButtons buttons) {
-        HostRuntime::bridge().runOnGui([&] {
-            QMouseEvent e(type, p, widget->mapToGlobal(p), type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton,
-                          buttons, Qt::NoModifier);
-            QApplication::sendEvent(widget, &e);
-        }, true);
-    };
-    mouse(QEvent::MouseButtonPress, {10, 10}, Qt::LeftButton);
-    mouse(QEvent::MouseMove, {10 + distance, 10}, Qt::LeftButton);
-    EXPECT_TRUE(starts.empty()) << "not past the drag distance yet";
-    mouse(QEvent::MouseMove, {12 + distance, 12}, Qt::LeftButton);
-    mouse(QEvent::MouseMove, {40 + distance, 40}, Qt::LeftButton);
-    EXPECT_EQ(starts, std::vector<QPoint>{QPoint(10, 10)}) << "once, from where the button went down";
-    mouse(QEvent::MouseButtonRelease, {40, 40}, Qt::NoButton);
-
-    HostRuntime::bridge().runOnGui([&] { widget->userDragInit.disconnect(&listener); }, true);
-    mouse(QEvent::MouseButtonPress, {10, 10}, Qt::LeftButton);
-    mouse(QEvent::MouseMove, {60, 60}, Qt::LeftButton); // nobody listens: disarmed all the same
-    HostRuntime::bridge().runOnGui([&] {
-        widget->userDragInit.connect(&listener, [&](UserDragStart s) { starts.push_back(s.pos); });
-    }, true);
-    mouse(QEvent::MouseMove, {90, 90}, Qt::LeftButton);
-    EXPECT_EQ(starts.size(), 1u);
-    HostRuntime::bridge().runOnGui([&] { widget->userDragInit.disconnect(&listener); }, true);
 }
