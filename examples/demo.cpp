@@ -13,6 +13,7 @@
 // thread and owns the scenes; the GUI thread owns the QApplication.
 
 #include "DemoGallery.h"
+#include "DemoInputTool.h"
 #include "DemoTour.h"
 
 #include <VOR2>
@@ -100,6 +101,9 @@ void showInWindow(VOR2::Scene *scene, std::string const &screenshot)
     }, true);
     VOR2::HostRuntime::loop().runUntil([&] { return canvas.getViewExtents().x > 0; }, 5000ms);
     canvas.zoomToSceneRect();
+    // Pointer position and node kind in the title, wheel zoom, a hand over nodes.
+    GLOX::Holder<demo::DemoInputTool> tool(new demo::DemoInputTool(scene, window));
+    scene->addTool(tool.get());
     if (!screenshot.empty()) {
         VOR2::HostRuntime::loop().runFor(500ms); // the fitted view is rendered and published
         bool saved = false;
@@ -108,10 +112,13 @@ void showInWindow(VOR2::Scene *scene, std::string const &screenshot)
             window->hide();
         }, true);
         std::printf(saved ? "Window captured to %s\n" : "Cannot write %s\n", screenshot.c_str());
+        scene->removeTool(tool.get());
         return;
     }
-    std::printf("A window shows the gallery; close it to end.\n");
+    std::printf("A window shows the gallery (the wheel zooms, the title tells what is under the pointer); close it "
+                "to end.\n");
     VOR2::HostRuntime::loop().runUntil([] { return false; }, std::chrono::hours(24));
+    scene->removeTool(tool.get());
 }
 } // namespace
 
