@@ -71,6 +71,7 @@ void ScenePrivate::markRemovedSubtree(NodeImpl *node)
 {
     scheduleViewUpdate();
     if (Behavior *behavior = node->getBehavior()) removeTool(behavior);
+    if (m_hoveredNode.promote().getImpl() == node) m_hoveredNode.clear(); // no exit: it has left
     m_pendingChanges[node] = PendingChangeKind::Removed;
     for (NodeImpl *child : node->getChildImpls()) markRemovedSubtree(child);
 }

@@ -25,7 +25,7 @@ void ToolStack::addTool(Tool *tool)
 
 void ToolStack::addTool(Tool *tool, GLOX::StringID const &role)
 {
-    if (!tool) return;
+    if (!tool || hasTool(tool)) return;
     GLOX::Holder<Tool> keep(tool);
     Tool *previous = m_roles.value(role, nullptr);
     int at = previous ? m_tools.indexOf(GLOX::Holder<Tool>(previous)) : -1;
@@ -137,8 +137,9 @@ void ToolStack::dispatch(Event &event, bool isAutoRepeat)
             }
         }
     }
+    // A tool leaving may take others with it: retire each at most once.
     for (GLOX::Holder<Tool> const &tool : GLOX::GList<GLOX::Holder<Tool>>(m_tools))
-        if (tool->isDone()) retire(tool.get());
+        if (tool->isDone() && hasTool(tool.get())) retire(tool.get());
     if (Scene *scene = event.scene()) {
         if (ScenePrivate *d = scene->getPrivate())
             m_hasCursor ? d->setToolOverrideCursor(m_cursor) : d->clearToolOverrideCursor();

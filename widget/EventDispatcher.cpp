@@ -6,6 +6,7 @@
 #include <FocusEvent>
 #include <KeyEvent>
 #include <MouseEvent>
+#include <Scene>
 #include <WidgetEvent>
 
 #include "widget/GLCanvasEmitters.h"
@@ -15,7 +16,8 @@
 
 namespace VOR2 {
 
-EventDispatcher::EventDispatcher(EventHandler *handler, GLCanvasEmitters &emitters) : m_handler(handler)
+EventDispatcher::EventDispatcher(EventHandler *handler, GLCanvasEmitters &emitters)
+    : m_handler(handler), m_scene(dynamic_cast<Scene *>(handler))
 {
     using H = EventHandler;
     auto on = [this](auto &emitter, auto operation, int type) {
@@ -46,9 +48,12 @@ EventDispatcher::~EventDispatcher() { disconnectAll(); }
 template <typename E, typename Value>
 void EventDispatcher::deliver(void (EventHandler::*operation)(E &), int type, Value const &value)
 {
+    // `this` may go during the call; the scene may not.
+    EventHandler *handler = m_handler;
+    GLOX::Holder<Scene> keep(m_scene);
     try {
         E event(type, value);
-        (m_handler->*operation)(event);
+        (handler->*operation)(event);
     } catch (std::exception const &error) {
         qWarning("VOR2: an input event handler failed: %s", error.what());
     }

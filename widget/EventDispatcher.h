@@ -7,8 +7,10 @@
 // handleFocusInEvent like a gained one; the event's type tells them apart.
 //
 // The canvas makes one when a layer comes to index 0 and deletes it when
-// that layer goes; deliveries still queued then are dropped. An error
-// raised by a handler is reported as a warning and ends that event only.
+// that layer goes; deliveries still queued then are dropped. A scene as
+// handler is held for the length of each delivery, so a tool may take it
+// off the canvas (and end it) while it handles an event. An error raised by a
+// handler is reported as a warning and ends that event only.
 
 #include "GLUV/Listener.h"
 
@@ -16,6 +18,7 @@ namespace VOR2 {
 
 class EventHandler;
 struct GLCanvasEmitters;
+class Scene;
 
 class EventDispatcher : public GLUV::Listener {
 public:
@@ -30,6 +33,7 @@ private:
     void deliver(void (EventHandler::*operation)(E &), int type, Value const &value);
 
     EventHandler *m_handler;
+    Scene *m_scene; // the handler, when it is a scene
 };
 
 } // namespace VOR2

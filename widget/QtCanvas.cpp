@@ -35,6 +35,8 @@ QtCanvas::QtCanvas(GLCanvas *canvas, QWidget *parent)
         GlobalViewerInfo::instance()->setDpi(dpi);
 }
 
+// The host reads the position when it handles an event: that event's, or
+// a later one's if the widget has moved since.
 void QtCanvas::reportPosition()
 {
     QPoint topLeft = viewport()->mapToGlobal(QPoint(0, 0));
@@ -84,7 +86,6 @@ void QtCanvas::mousePressEvent(QMouseEvent *event)
     if (!m_dragArmed && event->button() == Qt::LeftButton) {
         m_pressPos = event->localPos();
         m_pressGlobalPos = event->screenPos();
-        m_pressTopLevelPos = window()->mapFromGlobal(event->globalPos());
         m_dragArmed = true;
     }
     reportPosition();
@@ -123,12 +124,17 @@ void QtCanvas::mouseDoubleClickEvent(QMouseEvent *event)
 
 void QtCanvas::wheelEvent(QWheelEvent *event)
 {
+    event->accept();
+    // Whole degrees, 15 per notch. Qt counts eighths of a degree, and fine
+    // wheels and touch pads send a few at a time: keep what is left over.
+    m_wheelEighths += event->angleDelta().y();
+    int degrees = m_wheelEighths / 8;
+    if (degrees == 0) return;
+    m_wheelEighths -= degrees * 8;
     reportPosition();
-    // Degrees, 15 per notch; Qt counts eighths of a degree.
     QMouseEvent asMouse(QEvent::MouseMove, event->position(), event->globalPosition(), Qt::NoButton,
                         event->buttons(), event->modifiers());
-    m_emitters.wheel.send(toGL(&asMouse, event->angleDelta().y() / 8));
-    event->accept();
+    m_emitters.wheel.send(toGL(&asMouse, degrees));
 }
 
 void QtCanvas::keyPressEvent(QKeyEvent *event)

@@ -66,8 +66,8 @@ private:
     GLUV::Emitter<void (*)(GLOX::Cursor)> m_toolCursor{GLUV::SendAuto};
     QPointF m_pressPos; // viewport pixels
     QPointF m_pressGlobalPos;
-    QPoint m_pressTopLevelPos;
     bool m_dragArmed = false;
+    int m_wheelEighths = 0; // turned but not yet a whole degree
 };
 
 } // namespace VOR2

@@ -124,6 +124,24 @@ TEST(EventDispatcher, RoutesEachSignalToItsOperationAndFocusLostToFocusIn)
         << "and nothing once the dispatcher is gone";
 }
 
+TEST(EventDispatcher, AToolMayEndTheSceneItIsHandlingAnEventOf)
+{
+    GLCanvas canvas;
+    {
+        auto scene = Scene::createScene();
+        canvas.setScene(scene.get()); // from now on only the canvas holds it
+    }
+    struct Closer : RecordingTool {
+        explicit Closer(GLCanvas &c) : RecordingTool("closer"), canvas(c) {}
+        void handleMousePressEvent(MouseEvent &) override { canvas.setScene(nullptr); }
+        GLCanvas &canvas;
+    };
+    canvas.getScene()->addTool(new Closer(canvas));
+    canvas.getEmitters().mousePressed.send(GLOX::GLMouseEvent2(&canvas, {}, {1, 1}, {}, 0, Qt::LeftButton,
+                                                               Qt::LeftButton, {}));
+    EXPECT_EQ(canvas.getScene(), nullptr);
+}
+
 namespace {
 struct Machine : RecordingTool {
     Machine() : RecordingTool("machine"), idle(*this, idleRow()), current(&idle) {}

@@ -230,3 +230,35 @@ TEST(ToolFactory, MakesToolsByRoleAndTheNewestConstructorWins)
     EXPECT_NE(dynamic_cast<NewerSceneTool *>(added), nullptr);
     EXPECT_EQ(scene->getToolByRole("SceneTool"), added);
 }
+
+TEST(ToolStack, ChangesMadeWhileToolsWorkAreSafe)
+{
+    Stack s;
+    auto twice = s.add("twice");
+    s.stack.addTool(twice.get(), "alias");
+    EXPECT_EQ(s.names(), std::vector<std::string>{"twice"}) << "a tool is on the stack once";
+    EXPECT_EQ(twice->added, 1);
+
+    // A finishing tool that takes another finished one with it: each told once.
+    struct TakesAlong : RecordingTool {
+        using RecordingTool::RecordingTool;
+        ToolStack *stack = nullptr;
+        Tool *other = nullptr;
+        void onRemoveFromStack() override
+        {
+            RecordingTool::onRemoveFromStack();
+            stack->removeTool(other);
+        }
+    };
+    auto other = s.add("other");
+    GLOX::Holder<TakesAlong> leader(new TakesAlong("leader", s.log));
+    leader->stack = &s.stack;
+    leader->other = other.get();
+    s.stack.addTool(leader.get());
+    leader->doneAfter = other->doneAfter = 1;
+    MouseEvent e = press();
+    s.stack.handleMousePressEvent(e);
+    EXPECT_EQ(leader->removed, 1);
+    EXPECT_EQ(other->removed, 1);
+    EXPECT_EQ(s.names(), std::vector<std::string>{"twice"});
+}
