@@ -5,6 +5,7 @@
 #include "scene/NodeEmitterTable.h"
 #include "scene/NodeImpl.h"
 #include "scene/NodeOwnershipGuard.h"
+#include "scene/PendingPolish.h"
 
 #include <QMetaObject>
 
@@ -54,6 +55,7 @@ Node ScenePrivate::removeNodeImpl(NodeImpl *node)
 {
     NodeEmitterTable::instance().removeAll(node);
     if (!containsNode(node)) return Node();
+    flushPendingPolish(this);
     markRemovedSubtree(node);
     invalidateSceneBounds();
     NodeOwnershipGuard guard(node);
@@ -74,7 +76,11 @@ void ScenePrivate::markRemovedSubtree(NodeImpl *node)
 
 void ScenePrivate::destroyScene()
 {
-    for (NodeImpl *node : getTopLevelNodeImpls()) removeNodeImpl(node);
+    // Bottom first: Qt keeps the top-level items sorted by z and, once one
+    // has gone from the middle, searches that list from the front for each
+    // removal, so removing from the top down would be quadratic.
+    GLOX::GList<NodeImpl *> const nodes = getTopLevelNodeImpls();
+    for (auto it = nodes.rbegin(); it != nodes.rend(); ++it) removeNodeImpl(*it);
 }
 
 // ----------------------------------------------------------------- changes
