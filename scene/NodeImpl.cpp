@@ -6,6 +6,7 @@
 #include <GlobalViewerInfo>
 #include <WeakRef>
 
+#include "scene/CountRecord.h"
 #include "scene/GraphicsItemCasterTable.h"
 #include "scene/NodeCursorTable.h"
 #include "scene/NodeEmitterTable.h"
@@ -36,9 +37,17 @@ void nudgeSubtree(QGraphicsItem *item)
 }
 } // namespace
 
-NodeImpl::NodeImpl() { Diagnostics::add(INSTANCE_COUNT, 1); }
+namespace {
+CountRecord &instanceCount()
+{
+    static CountRecord record(INSTANCE_COUNT);
+    return record;
+}
+} // namespace
 
-NodeImpl::~NodeImpl() { Diagnostics::add(INSTANCE_COUNT, -1); }
+NodeImpl::NodeImpl() { instanceCount().add(1); }
+
+NodeImpl::~NodeImpl() { instanceCount().add(-1); }
 
 // ---------------------------------------------------------------- identity
 

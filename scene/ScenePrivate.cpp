@@ -2,6 +2,7 @@
 
 #include <Diagnostics>
 
+#include "scene/CountRecord.h"
 #include "scene/NodeEmitterTable.h"
 #include "scene/NodeImpl.h"
 #include "scene/NodeOwnershipGuard.h"
@@ -14,6 +15,12 @@ namespace VOR2 {
 namespace {
 char const *const NODE_COUNT = "Scene:Node count";
 char const *const QUEUED_UPDATES = "Scene:Queued view updates";
+
+CountRecord &nodeCount()
+{
+    static CountRecord record(NODE_COUNT);
+    return record;
+}
 } // namespace
 
 ScenePrivate::ScenePrivate(Scene *scene) : m_scene(scene)
@@ -46,9 +53,9 @@ void ScenePrivate::addNodeImpl(NodeImpl *node)
     else if (!m_creationDrawStyles.isEmpty())
         node->setDrawStyle(m_creationDrawStyles.last());
     addItem(node->getGraphicsItem());
-    stepToTop(node);
+    stackOnTop(node);
     nodeGeometryChanged(node);
-    Diagnostics::add(NODE_COUNT, 1);
+    nodeCount().add(1);
 }
 
 Node ScenePrivate::removeNodeImpl(NodeImpl *node)
@@ -62,7 +69,7 @@ Node ScenePrivate::removeNodeImpl(NodeImpl *node)
     Node result(node);
     removeItem(node->getGraphicsItem());
     node->invalidateCaches();
-    Diagnostics::add(NODE_COUNT, -1);
+    nodeCount().add(-1);
     return result;
 }
 
