@@ -15,6 +15,7 @@ void lifecycle(benchmark::State &state, Workload w, int n)
 {
     Fixture::release(); // nothing else on the heap while we count
     std::vector<Shape> const &list = shapes(w, n);
+    BuiltScene(System::VOR2, list, false).teardown(); // the heap grows once, untimed
     runAlternating(state, SCENE_SYSTEMS, [&](System s, Recorder &r) {
         std::unique_ptr<BuiltScene> scene;
         size_t before = heapBytesInUse();

@@ -116,7 +116,14 @@ void BuiltScene::teardown()
     firstNode = VOR2::Node();
     firstItem = nullptr;
     if (vor2) std::exchange(vor2, nullptr)->unref();
-    delete std::exchange(qt, nullptr);
+    if (qt) {
+        // Items added since the last event-loop turn wait in Qt's list of
+        // items to polish, and deleting each one searches that list from
+        // the front: quadratic. The turn's own polish pass (a private slot
+        // of QGraphicsScene) empties it in one go, as a loop turn would.
+        QMetaObject::invokeMethod(qt, "_q_polishItems", Qt::DirectConnection);
+        delete std::exchange(qt, nullptr);
+    }
 }
 
 void paintShapesDirectly(QPainter &painter, std::vector<Shape> const &list, QRectF const &source, double scale)

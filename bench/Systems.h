@@ -24,8 +24,10 @@ namespace bench {
 enum class System { VOR2, QtBsp, QtNoIndex, Painter };
 char const *systemKey(System s);
 
-// A scene of one system. `build` creates and adds every shape; the
-// destructor (or teardown) destroys the scene and what it holds.
+// A scene of one system. The constructor creates and adds every shape; the
+// destructor (or teardown) destroys the scene and what it holds. A Qt
+// scene's teardown first runs the polish pass that the next event-loop
+// turn would run; without it Qt's own deletion of items is quadratic.
 struct BuiltScene {
     System system;
     VOR2::Scene *vor2 = nullptr; // one reference held
