@@ -9,6 +9,9 @@
 #include "scene/PendingPolish.h"
 
 #include <QMetaObject>
+#include <algorithm>
+#include <utility>
+#include <vector>
 
 namespace VOR2 {
 
@@ -83,11 +86,13 @@ void ScenePrivate::markRemovedSubtree(NodeImpl *node)
 
 void ScenePrivate::destroyScene()
 {
-    // Bottom first: Qt keeps the top-level items sorted by z and, once one
-    // has gone from the middle, searches that list from the front for each
-    // removal, so removing from the top down would be quadratic.
-    GLOX::GList<NodeImpl *> const nodes = getTopLevelNodeImpls();
-    for (auto it = nodes.rbegin(); it != nodes.rend(); ++it) removeNodeImpl(*it);
+    // Bottom first: once a scene has been drawn Qt keeps its top-level items
+    // sorted by z and searches that list from the front for each removal,
+    // so removing from the top down would be quadratic.
+    std::vector<std::pair<double, NodeImpl *>> nodes;
+    for (NodeImpl *node : getTopLevelNodeImpls()) nodes.emplace_back(node->getGraphicsItem()->zValue(), node);
+    std::stable_sort(nodes.begin(), nodes.end(), [](auto const &a, auto const &b) { return a.first < b.first; });
+    for (auto const &entry : nodes) removeNodeImpl(entry.second);
 }
 
 // ----------------------------------------------------------------- changes
