@@ -176,6 +176,7 @@ void NodeImpl::invalidateCaches()
 {
     m_offscreenDirty = true;
     m_viewCache.clear();
+    m_itemRectScale = 0.0;
     m_boundsCache = Bounds();
 }
 
@@ -298,11 +299,17 @@ Bounds NodeImpl::computeHitBounds(double scale) { return getCachedStrokedOutline
 
 QRectF NodeImpl::itemBoundingRect()
 {
-    double scale = GlobalViewerInfo::instance()->getViewerScale();
+    GlobalViewerInfo const *view = GlobalViewerInfo::instance();
+    double const scale = view->getViewerScale();
+    void const *const key = view->getKey();
+    if (m_itemRectScale == scale && m_itemRectKey == key) return m_itemRect;
     GLOX::GLRect<double> r =
         getCachedMaximumBounds(scale).boundingRect().united(getCachedHitBounds(scale).boundingRect());
-    if (!r.isValid()) return QRectF(-1.0, -1.0, -1.0, -1.0);
-    return GLOX::toQRectF(r);
+    QRectF const rect = r.isValid() ? GLOX::toQRectF(r) : QRectF(-1.0, -1.0, -1.0, -1.0);
+    m_itemRectKey = key;
+    m_itemRectScale = scale;
+    m_itemRect = rect;
+    return rect;
 }
 
 QPainterPath NodeImpl::itemShape()
