@@ -24,7 +24,7 @@ Bounds EllipseNodeImpl::computeBounds() { return Bounds(ellipsePath()); }
 
 Bounds EllipseNodeImpl::computeStrokedOutline(double scale)
 {
-    return Bounds(strokedArea(ellipsePath(), getDrawStyle().stroke(), scale, StrokerShape::Default));
+    return Bounds(convexStrokedArea(ellipsePath(), getDrawStyle().stroke(), scale));
 }
 
 void EllipseNodeImpl::paintContents(QPainter *painter, QStyleOptionGraphicsItem const *, QWidget *)

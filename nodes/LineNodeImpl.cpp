@@ -65,6 +65,20 @@ void LineNodeImpl::setEndDecoration(LineEndDecoration const &decoration)
     notifyRepaint();
 }
 
+namespace {
+// A stroke outline as one region. The outline of one straight segment is a
+// single closed contour that never crosses itself and is kept as it is;
+// only outlines of several contours go through QPainterPath::simplified,
+// a boolean operation that costs far more than the stroke itself.
+QPainterPath simplifiedOutline(QPainterPath const &outline)
+{
+    int contours = 0;
+    for (int i = 0; i < outline.elementCount(); ++i)
+        contours += outline.elementAt(i).type == QPainterPath::MoveToElement;
+    return contours == 1 ? outline : outline.simplified();
+}
+} // namespace
+
 QPainterPath LineNodeImpl::geometricPath() const
 {
     QPainterPath path;
@@ -80,7 +94,7 @@ Bounds LineNodeImpl::computeBounds() { return Bounds(geometricPath()); }
 Bounds LineNodeImpl::computeStrokedOutline(double scale)
 {
     QPainterPath stroke = strokeOutline(geometricPath(), getDrawStyle().stroke(), scale, StrokerShape::FromStroke);
-    return Bounds(stroke.simplified());
+    return Bounds(simplifiedOutline(stroke));
 }
 
 Bounds LineNodeImpl::computeHitBounds(double scale)
@@ -90,7 +104,7 @@ Bounds LineNodeImpl::computeHitBounds(double scale)
     // The whole width is divided by the scale, the tolerance and a stroke
     // width already in scene units included.
     stroker.setWidth(w / scale);
-    return Bounds(stroker.createStroke(geometricPath()).simplified());
+    return Bounds(simplifiedOutline(stroker.createStroke(geometricPath())));
 }
 
 bool LineNodeImpl::contains(GLOX::GLPoint<double> const &p)

@@ -3,6 +3,7 @@
 #include "nodes/StylePainter.h"
 
 #include <QPainterPathStroker>
+#include <vector>
 
 namespace VOR2 {
 
@@ -22,6 +23,35 @@ QPainterPath strokedArea(QPainterPath const &path, Stroke const &stroke, double 
 {
     if (stroke.isNoStroke()) return path;
     return strokeOutline(path, stroke, scale, shape).united(path);
+}
+
+QPainterPath convexStrokedArea(QPainterPath const &path, Stroke const &stroke, double scale)
+{
+    if (stroke.isNoStroke()) return path;
+    QPainterPath const outline = strokeOutline(path, stroke, scale, StrokerShape::Default);
+    // The outline's subpaths, curves kept.
+    std::vector<QPainterPath> contours;
+    for (int i = 0; i < outline.elementCount(); ++i) {
+        QPainterPath::Element const e = outline.elementAt(i);
+        if (e.type == QPainterPath::MoveToElement) {
+            contours.emplace_back(QPointF(e));
+        } else if (contours.empty()) {
+            return outline.united(path);
+        } else if (e.type == QPainterPath::LineToElement) {
+            contours.back().lineTo(e);
+        } else if (e.type == QPainterPath::CurveToElement && i + 2 < outline.elementCount()) {
+            contours.back().cubicTo(e, outline.elementAt(i + 1), outline.elementAt(i + 2));
+            i += 2;
+        }
+    }
+    if (contours.size() != 2) return outline.united(path);
+    auto area = [](QPainterPath const &p) {
+        QRectF r = p.controlPointRect();
+        return r.width() * r.height();
+    };
+    QPainterPath outer = contours[area(contours[0]) >= area(contours[1]) ? 0 : 1];
+    outer.closeSubpath();
+    return outer;
 }
 
 } // namespace VOR2

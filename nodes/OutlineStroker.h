@@ -21,4 +21,12 @@ QPainterPath strokeOutline(QPainterPath const &path, Stroke const &stroke, doubl
 // the stroke draws nothing, else the stroke's outline united with the path.
 QPainterPath strokedArea(QPainterPath const &path, Stroke const &stroke, double scale, StrokerShape shape);
 
+// strokedArea for one closed convex subpath (an ellipse, a rounded
+// rectangle), with Qt's default pen shape: the stroke's outer contour, which
+// holds the path and the stroke's inner half, curves kept. It skips the
+// boolean union, which costs a hundred times more and flattens the curves;
+// a stroke outline of other than one outer and one inner contour falls back
+// to the union.
+QPainterPath convexStrokedArea(QPainterPath const &path, Stroke const &stroke, double scale);
+
 } // namespace VOR2

@@ -47,7 +47,7 @@ Bounds RoundedRectNodeImpl::computeBounds()
 
 Bounds RoundedRectNodeImpl::computeStrokedOutline(double scale)
 {
-    return Bounds(strokedArea(outlinePath(), getDrawStyle().stroke(), scale, StrokerShape::Default));
+    return Bounds(convexStrokedArea(outlinePath(), getDrawStyle().stroke(), scale));
 }
 
 void RoundedRectNodeImpl::draw(QPainter *painter) const

@@ -6,6 +6,7 @@
 #include <GlobalViewerInfo>
 #include <WeakRef>
 
+#include "scene/CountRecord.h"
 #include "scene/GraphicsItemCasterTable.h"
 #include "scene/NodeCursorTable.h"
 #include "scene/NodeEmitterTable.h"
@@ -36,9 +37,17 @@ void nudgeSubtree(QGraphicsItem *item)
 }
 } // namespace
 
-NodeImpl::NodeImpl() { Diagnostics::add(INSTANCE_COUNT, 1); }
+namespace {
+CountRecord &instanceCount()
+{
+    static CountRecord record(INSTANCE_COUNT);
+    return record;
+}
+} // namespace
 
-NodeImpl::~NodeImpl() { Diagnostics::add(INSTANCE_COUNT, -1); }
+NodeImpl::NodeImpl() { instanceCount().add(1); }
+
+NodeImpl::~NodeImpl() { instanceCount().add(-1); }
 
 // ---------------------------------------------------------------- identity
 
@@ -167,6 +176,7 @@ void NodeImpl::invalidateCaches()
 {
     m_offscreenDirty = true;
     m_viewCache.clear();
+    m_itemRectScale = 0.0;
     m_boundsCache = Bounds();
 }
 
@@ -289,11 +299,17 @@ Bounds NodeImpl::computeHitBounds(double scale) { return getCachedStrokedOutline
 
 QRectF NodeImpl::itemBoundingRect()
 {
-    double scale = GlobalViewerInfo::instance()->getViewerScale();
+    GlobalViewerInfo const *view = GlobalViewerInfo::instance();
+    double const scale = view->getViewerScale();
+    void const *const key = view->getKey();
+    if (m_itemRectScale == scale && m_itemRectKey == key) return m_itemRect;
     GLOX::GLRect<double> r =
         getCachedMaximumBounds(scale).boundingRect().united(getCachedHitBounds(scale).boundingRect());
-    if (!r.isValid()) return QRectF(-1.0, -1.0, -1.0, -1.0);
-    return GLOX::toQRectF(r);
+    QRectF const rect = r.isValid() ? GLOX::toQRectF(r) : QRectF(-1.0, -1.0, -1.0, -1.0);
+    m_itemRectKey = key;
+    m_itemRectScale = scale;
+    m_itemRect = rect;
+    return rect;
 }
 
 QPainterPath NodeImpl::itemShape()

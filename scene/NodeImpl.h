@@ -116,7 +116,11 @@ public:
     void setOffscreenDirty(bool dirty) { m_offscreenDirty = dirty; }
 
     // Drops what this node keeps for the view `key`.
-    void forgetView(void const *key) { m_viewCache.remove(key); }
+    void forgetView(void const *key)
+    {
+        m_viewCache.remove(key);
+        if (key == m_itemRectKey) m_itemRectScale = 0.0;
+    }
 
     // --- Change reporting -----------------------------------------------
     void invalidateCaches();
@@ -197,6 +201,12 @@ private:
     CacheType m_cacheType = CacheType::None;
     GLOX::Holder<Behavior> m_behavior;
     QCache<void const *, NodeViewCache> m_viewCache{5000};
+    // The Qt bounding rectangle last answered and the view and scale it was
+    // answered for (scale 0: none). Qt asks for it on every walk of the
+    // scene's items, so it skips the per-view cache; emptied with it.
+    void const *m_itemRectKey = nullptr;
+    double m_itemRectScale = 0.0;
+    QRectF m_itemRect;
     bool m_updateHandlerOverridden = false;
     NodeUpdateHandler *m_updateHandler = nullptr;
     GLOX::Holder<Node::CustomHitTestFunctor> m_customHitTest;

@@ -3,17 +3,28 @@
 #include <Behavior>
 #include <Diagnostics>
 
+#include "scene/CountRecord.h"
 #include "scene/NodeEmitterTable.h"
 #include "scene/NodeImpl.h"
 #include "scene/NodeOwnershipGuard.h"
+#include "scene/PendingPolish.h"
 
 #include <QMetaObject>
+#include <algorithm>
+#include <utility>
+#include <vector>
 
 namespace VOR2 {
 
 namespace {
 char const *const NODE_COUNT = "Scene:Node count";
 char const *const QUEUED_UPDATES = "Scene:Queued view updates";
+
+CountRecord &nodeCount()
+{
+    static CountRecord record(NODE_COUNT);
+    return record;
+}
 } // namespace
 
 ScenePrivate::ScenePrivate(Scene *scene) : m_scene(scene)
@@ -48,22 +59,23 @@ void ScenePrivate::addNodeImpl(NodeImpl *node)
     else if (!m_creationDrawStyles.isEmpty())
         node->setDrawStyle(m_creationDrawStyles.last());
     addItem(node->getGraphicsItem());
-    stepToTop(node);
+    stackOnTop(node);
     nodeGeometryChanged(node);
-    Diagnostics::add(NODE_COUNT, 1);
+    nodeCount().add(1);
 }
 
 Node ScenePrivate::removeNodeImpl(NodeImpl *node)
 {
     NodeEmitterTable::instance().removeAll(node);
     if (!containsNode(node)) return Node();
+    flushPendingPolish(this);
     markRemovedSubtree(node);
     invalidateSceneBounds();
     NodeOwnershipGuard guard(node);
     Node result(node);
     removeItem(node->getGraphicsItem());
     node->invalidateCaches();
-    Diagnostics::add(NODE_COUNT, -1);
+    nodeCount().add(-1);
     return result;
 }
 
@@ -78,7 +90,13 @@ void ScenePrivate::markRemovedSubtree(NodeImpl *node)
 
 void ScenePrivate::destroyScene()
 {
-    for (NodeImpl *node : getTopLevelNodeImpls()) removeNodeImpl(node);
+    // Bottom first: once a scene has been drawn Qt keeps its top-level items
+    // sorted by z and searches that list from the front for each removal,
+    // so removing from the top down would be quadratic.
+    std::vector<std::pair<double, NodeImpl *>> nodes;
+    for (NodeImpl *node : getTopLevelNodeImpls()) nodes.emplace_back(node->getGraphicsItem()->zValue(), node);
+    std::stable_sort(nodes.begin(), nodes.end(), [](auto const &a, auto const &b) { return a.first < b.first; });
+    for (auto const &entry : nodes) removeNodeImpl(entry.second);
     clearToolStack();
 }
 

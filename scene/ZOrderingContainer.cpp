@@ -50,10 +50,15 @@ void ZOrderingContainer::setZValue(NodeImpl *n, double z)
 
 void ZOrderingContainer::stepToTop(NodeImpl *n)
 {
+    stackOnTop(n);
+    n->notifyRepaint();
+}
+
+void ZOrderingContainer::stackOnTop(NodeImpl *n)
+{
     ZRange &range = zRange();
     range.highest += 1.0;
     writeZ(n, range.highest);
-    n->notifyRepaint();
 }
 
 void ZOrderingContainer::toTop(NodeImpl *n)

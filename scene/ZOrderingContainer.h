@@ -29,6 +29,9 @@ public:
 
     void setZValue(NodeImpl *n, double z);
     void stepToTop(NodeImpl *n);
+    // As stepToTop, without the repaint report: for a node that has just
+    // joined this container and is reported whole by its caller.
+    void stackOnTop(NodeImpl *n);
     void toTop(NodeImpl *n);
     void toBottom(NodeImpl *n);
     void placeAbove(NodeImpl *n, NodeImpl *ref);

@@ -1,0 +1,177 @@
+#include "Systems.h"
+
+#include <EllipseNode>
+#include <GlobalViewerInfo>
+#include <LineNode>
+#include <RectNode>
+#include <RoundedRectNode>
+
+#include "scene/SceneRegionRenderer.h"
+#include "scene/ScenePrivate.h"
+
+#include <QGraphicsEllipseItem>
+#include <QGraphicsLineItem>
+#include <QGraphicsPathItem>
+#include <QGraphicsRectItem>
+#include <QPainterPath>
+
+namespace bench {
+
+namespace {
+
+VOR2::Node makeNode(Shape const &s)
+{
+    GLOX::GLRect<double> r(s.rect.x(), s.rect.y(), s.rect.width(), s.rect.height());
+    VOR2::Node node;
+    switch (s.kind) {
+    case ShapeKind::Rect: node = VOR2::RectNode(r); break;
+    case ShapeKind::Ellipse: node = VOR2::EllipseNode(VOR2::Ellipse(r)); break;
+    case ShapeKind::Line:
+        node = VOR2::LineNode({s.rect.left(), s.rect.top()}, {s.rect.right(), s.rect.bottom()});
+        break;
+    case ShapeKind::RoundedRect: node = VOR2::RoundedRectNode(r, ROUNDED_RADIUS); break;
+    }
+    VOR2::Stroke hairline(GLOX::Color(0.0, 0.0, 0.0), 0.0);
+    VOR2::Fill fill = s.kind == ShapeKind::Line ? VOR2::Fill() : VOR2::Fill(GLOX::fromQColor(s.fill));
+    node.setDrawStyle(VOR2::DrawStyle(hairline, fill));
+    return node;
+}
+
+QGraphicsItem *makeItem(Shape const &s)
+{
+    QPen hairline(Qt::black, 0);
+    QBrush fill(s.fill);
+    switch (s.kind) {
+    case ShapeKind::Rect: {
+        auto *item = new QGraphicsRectItem(s.rect);
+        item->setPen(hairline);
+        item->setBrush(fill);
+        return item;
+    }
+    case ShapeKind::Ellipse: {
+        auto *item = new QGraphicsEllipseItem(s.rect);
+        item->setPen(hairline);
+        item->setBrush(fill);
+        return item;
+    }
+    case ShapeKind::Line: {
+        auto *item = new QGraphicsLineItem(QLineF(s.rect.topLeft(), s.rect.bottomRight()));
+        item->setPen(hairline);
+        return item;
+    }
+    case ShapeKind::RoundedRect: {
+        QPainterPath path;
+        path.addRoundedRect(s.rect, ROUNDED_RADIUS, ROUNDED_RADIUS);
+        auto *item = new QGraphicsPathItem(path);
+        item->setPen(hairline);
+        item->setBrush(fill);
+        return item;
+    }
+    }
+    return nullptr;
+}
+} // namespace
+
+char const *systemKey(System s)
+{
+    switch (s) {
+    case System::VOR2: return "vor2";
+    case System::QtBsp: return "qt_bsp";
+    case System::QtNoIndex: return "qt_noindex";
+    case System::Painter: return "painter";
+    }
+    return "?";
+}
+
+BuiltScene::BuiltScene(System s, std::vector<Shape> const &list, bool keepFirst) : system(s), shapes(&list)
+{
+    switch (s) {
+    case System::VOR2: {
+        GLOX::Holder<VOR2::Scene> scene = VOR2::Scene::createScene();
+        for (Shape const &shape : list) {
+            VOR2::Node node = makeNode(shape);
+            scene->addNode(node);
+            if (keepFirst && !firstNode.isValid()) firstNode = node;
+        }
+        vor2 = scene.get();
+        vor2->ref();
+        break;
+    }
+    case System::QtBsp:
+    case System::QtNoIndex:
+        qt = new QGraphicsScene;
+        qt->setItemIndexMethod(s == System::QtBsp ? QGraphicsScene::BspTreeIndex : QGraphicsScene::NoIndex);
+        for (Shape const &shape : list) {
+            QGraphicsItem *item = makeItem(shape);
+            qt->addItem(item);
+            if (keepFirst && !firstItem) firstItem = item;
+        }
+        break;
+    case System::Painter: break;
+    }
+}
+
+void BuiltScene::teardown()
+{
+    firstNode = VOR2::Node();
+    firstItem = nullptr;
+    if (vor2) std::exchange(vor2, nullptr)->unref();
+    if (qt) {
+        // Items added since the last event-loop turn wait in Qt's list of
+        // items to polish, and deleting each one searches that list from
+        // the front: quadratic. The turn's own polish pass (a private slot
+        // of QGraphicsScene) empties it in one go, as a loop turn would.
+        QMetaObject::invokeMethod(qt, "_q_polishItems", Qt::DirectConnection);
+        delete std::exchange(qt, nullptr);
+    }
+}
+
+void paintShapesDirectly(QPainter &painter, std::vector<Shape> const &list, QRectF const &source, double scale)
+{
+    painter.setPen(QPen(Qt::black, 0));
+    for (Shape const &s : list) {
+        if (!paintedRect(s, scale).intersects(source)) continue;
+        switch (s.kind) {
+        case ShapeKind::Rect:
+            painter.setBrush(s.fill);
+            painter.drawRect(s.rect);
+            break;
+        case ShapeKind::Ellipse:
+            painter.setBrush(s.fill);
+            painter.drawEllipse(s.rect);
+            break;
+        case ShapeKind::Line: painter.drawLine(s.rect.topLeft(), s.rect.bottomRight()); break;
+        case ShapeKind::RoundedRect:
+            painter.setBrush(s.fill);
+            painter.drawRoundedRect(s.rect, ROUNDED_RADIUS, ROUNDED_RADIUS);
+            break;
+        }
+    }
+}
+
+void renderRegion(BuiltScene &scene, QImage &image, QRect const &target, QRectF const &source, void const *viewKey)
+{
+    double const scale = std::min(target.width() / source.width(), target.height() / source.height());
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    if (scene.system == System::VOR2) {
+        VOR2::GlobalViewerInfo::instance()->setCurrentView(viewKey, scale);
+        VOR2::renderSceneRegion(&painter, scene.vor2->getPrivate(), target, source);
+        VOR2::GlobalViewerInfo::instance()->clearCurrentView();
+        return;
+    }
+    painter.setCompositionMode(QPainter::CompositionMode_Source);
+    painter.fillRect(target, Qt::transparent);
+    painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
+    if (scene.qt) {
+        scene.qt->render(&painter, QRectF(target), source, Qt::KeepAspectRatio);
+        return;
+    }
+    painter.setClipRect(target);
+    painter.translate(target.x(), target.y());
+    painter.scale(scale, scale);
+    painter.translate(-source.x(), -source.y());
+    paintShapesDirectly(painter, *scene.shapes, source, scale);
+}
+
+} // namespace bench
