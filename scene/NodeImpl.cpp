@@ -375,10 +375,22 @@ void NodeImpl::destroy()
     WeakRef::implDestroyed(this);
     NodeEmitterTable::instance().removeAll(this);
     for (NodeImpl *child : getChildImpls()) child->setParent(nullptr);
+    releaseTables();
+    delete this;
+}
+
+void NodeImpl::releaseForSceneDeath()
+{
+    WeakRef::implDestroyed(this);
+    NodeEmitterTable::instance().removeAll(this);
+    releaseTables();
+}
+
+void NodeImpl::releaseTables()
+{
     m_viewCache.clear();
     clearBehavior();
     NodeCursorTable::instance().remove(this);
-    delete this;
 }
 
 } // namespace VOR2

@@ -185,7 +185,17 @@ protected:
     bool itemCollidesWithPath(QPainterPath const &path);
     void destroy() override;
 
+public:
+    // For a scene that dies with this node in it: cuts every link of the
+    // node that outlives its memory (weak references, signals, behaviour,
+    // cursor, view caches), as destroy() does, but leaves the children and
+    // the deletion to the scene, which deletes its items in one sweep. Only
+    // for a node nobody holds. Host thread.
+    void releaseForSceneDeath();
+
 private:
+    // The links destroy() and releaseForSceneDeath() both cut last.
+    void releaseTables();
     void onParentHasChanged();
     bool usesOffscreenImage() const;
     void drawOffscreenImage(QRectF const &bounds, double lod);

@@ -90,14 +90,37 @@ void ScenePrivate::markRemovedSubtree(NodeImpl *node)
 
 void ScenePrivate::destroyScene()
 {
-    // Bottom first: once a scene has been drawn Qt keeps its top-level items
-    // sorted by z and searches that list from the front for each removal,
-    // so removing from the top down would be quadratic.
-    std::vector<std::pair<double, NodeImpl *>> nodes;
-    for (NodeImpl *node : getTopLevelNodeImpls()) nodes.emplace_back(node->getGraphicsItem()->zValue(), node);
-    std::stable_sort(nodes.begin(), nodes.end(), [](auto const &a, auto const &b) { return a.first < b.first; });
-    for (auto const &entry : nodes) removeNodeImpl(entry.second);
+    flushPendingPolish(this);
+    // Nodes that a handle holds leave one by one, with their subtrees, and
+    // live on, detached.
+    GLOX::GList<NodeImpl *> survivors;
+    for (NodeImpl *node : getTopLevelNodeImpls()) collectSurvivors(node, survivors);
+    for (NodeImpl *node : survivors) {
+        if (node->getParentImpl()) node->setParent(nullptr);
+        removeNodeImpl(node);
+    }
+    // The rest die with the scene. Removing items one by one searches Qt's
+    // index once for each and is quadratic; clear() empties the index first
+    // and deletes every item in one sweep, once each node has cut its links.
+    int topLevel = 0;
+    for (QGraphicsItem *item : items()) {
+        topLevel += item->parentItem() ? 0 : 1;
+        NodeImpl::fromItem(item)->releaseForSceneDeath();
+    }
+    m_pendingChanges.clear();
+    nodeCount().add(-topLevel);
+    clear();
     clearToolStack();
+}
+
+void ScenePrivate::collectSurvivors(NodeImpl *node, GLOX::GList<NodeImpl *> &survivors)
+{
+    // Attachment holds one reference; more means a handle holds the node.
+    if (node->refCount() > 1) {
+        survivors.append(node);
+        return;
+    }
+    for (NodeImpl *child : node->getChildImpls()) collectSurvivors(child, survivors);
 }
 
 // ----------------------------------------------------------------- changes

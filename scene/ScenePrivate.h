@@ -164,6 +164,9 @@ public:
 private:
     // Marks `node` and its subtree Removed.
     void markRemovedSubtree(NodeImpl *node);
+    // The nodes of `node`'s subtree that a handle holds and whose ancestors
+    // nobody holds: the ones that outlive the scene.
+    static void collectSurvivors(NodeImpl *node, GLOX::GList<NodeImpl *> &survivors);
     bool handledHere(NodeImpl const *node) const;
     // Makes the event's canvas, if any, the current view, then hands the
     // event to the tool stack's operation.

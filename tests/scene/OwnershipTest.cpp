@@ -69,7 +69,8 @@ TEST_F(Ownership, DestroyingASceneFreesItsTreeAndSparesHeldNodes)
 {
     int start = liveNodeCount();
     RectNode held = rect(0, 0);
-    WeakRef heldChild;
+    WeakRef heldChild, dyingChild;
+    RectNode heldUnderDoomed = rect(0, 0);
     {
         auto doomed = Scene::createScene();
         doomed->addNode(held);
@@ -81,12 +82,22 @@ TEST_F(Ownership, DestroyingASceneFreesItsTreeAndSparesHeldNodes)
         RectNode c = rect(0, 0);
         heldChild = c;
         c.setParent(held);
-        EXPECT_EQ(liveNodeCount(), start + 1 + 5 * 4 + 1);
+        RectNode doomedParent = rect(0, 0);
+        doomed->addNode(doomedParent);
+        heldUnderDoomed.setParent(doomedParent);
+        RectNode d = rect(0, 0);
+        dyingChild = d;
+        d.setParent(heldUnderDoomed);
+        EXPECT_EQ(liveNodeCount(), start + 1 + 5 * 4 + 1 + 3);
     }
-    EXPECT_EQ(liveNodeCount(), start + 2);
+    EXPECT_EQ(liveNodeCount(), start + 4);
     EXPECT_EQ(held.getScene(), nullptr);
     ASSERT_TRUE(heldChild.isValid());
     EXPECT_EQ(heldChild.promote().getParent(), held);
+    EXPECT_EQ(heldUnderDoomed.getScene(), nullptr) << "held under a dying parent: detached";
+    EXPECT_FALSE(heldUnderDoomed.getParent().isValid());
+    ASSERT_TRUE(dyingChild.isValid()) << "its own subtree stays with it";
+    EXPECT_EQ(dyingChild.promote().getParent(), heldUnderDoomed);
 }
 
 TEST_F(Ownership, WeakReferencesAllNullAtDeathAndSurviveAttachment)
