@@ -74,10 +74,11 @@ NodeImpl *NodeImpl::fromItem(QGraphicsItem const *item)
 
 NodeImpl *NodeImpl::getParentImpl() const { return fromItem(getGraphicsItem()->parentItem()); }
 
-GLOX::GList<NodeImpl *> NodeImpl::getChildImpls() const
+GLOX::GList<NodeImpl *> const NodeImpl::getChildImpls() const
 {
     GLOX::GList<NodeImpl *> children;
-    for (QGraphicsItem *child : getGraphicsItem()->childItems()) children.append(fromItem(child));
+    QList<QGraphicsItem *> const items = getGraphicsItem()->childItems();
+    for (QGraphicsItem *child : items) children.append(fromItem(child));
     return children;
 }
 

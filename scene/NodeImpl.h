@@ -16,6 +16,8 @@
 #include <DrawStyle>
 #include <Node>
 
+#include <cstdint>
+
 #include "GLOX/Containers.h"
 #include "GLOX/Holder.h"
 #include "GLOX/ReferencedTemplate.h"
@@ -86,7 +88,9 @@ public:
 
     // --- Tree -----------------------------------------------------------
     NodeImpl *getParentImpl() const;
-    GLOX::GList<NodeImpl *> getChildImpls() const;
+    // Const, so that a range-for over the answer does not copy an empty
+    // list to write to it (a heap block per node in every walk).
+    GLOX::GList<NodeImpl *> const getChildImpls() const;
     bool isAttached() const;
     // Reparents with ownership kept (see Node::setParent); null detaches
     // from the parent but not from the scene.
@@ -186,6 +190,14 @@ protected:
     void destroy() override;
 
 public:
+    // Where this node stands in a batch of pending changes: the batch's
+    // number (0 for none) and its place there. Kept by PendingChanges.
+    struct PendingSlot {
+        std::uint32_t batch = 0;
+        std::uint32_t index = 0;
+    };
+    PendingSlot &pendingSlot() const { return m_pendingSlot; }
+
     // For a scene that dies with this node in it: cuts every link of the
     // node that outlives its memory (weak references, signals, behaviour,
     // cursor, view caches), as destroy() does, but leaves the children and
@@ -207,6 +219,7 @@ private:
     GLOX::GList<GLOX::StringID> m_tags;
     Bounds m_boundsCache;
     bool m_offscreenDirty = true;
+    mutable PendingSlot m_pendingSlot;
     DrawStyle m_drawStyle;
     CacheType m_cacheType = CacheType::None;
     GLOX::Holder<Behavior> m_behavior;

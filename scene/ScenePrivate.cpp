@@ -84,7 +84,7 @@ void ScenePrivate::markRemovedSubtree(NodeImpl *node)
     scheduleViewUpdate();
     if (Behavior *behavior = node->getBehavior()) removeTool(behavior);
     if (m_hoveredNode.promote().getImpl() == node) m_hoveredNode.clear(); // no exit: it has left
-    m_pendingChanges[node] = PendingChangeKind::Removed;
+    m_pendingChanges.recordRemoved(node);
     for (NodeImpl *child : node->getChildImpls()) markRemovedSubtree(child);
 }
 
@@ -132,10 +132,10 @@ void ScenePrivate::scheduleViewUpdate()
     Diagnostics::add(QUEUED_UPDATES, 1);
 }
 
-ScenePrivate::PendingChanges ScenePrivate::takePendingChanges()
+PendingChanges ScenePrivate::takePendingChanges()
 {
     PendingChanges taken;
-    taken.swap(m_pendingChanges);
+    std::swap(taken, m_pendingChanges);
     return taken;
 }
 
@@ -148,11 +148,7 @@ bool ScenePrivate::handledHere(NodeImpl const *node) const
 void ScenePrivate::nodeRepaintRequired(NodeImpl *node)
 {
     scheduleViewUpdate();
-    auto it = m_pendingChanges.find(node);
-    if (it == m_pendingChanges.end())
-        m_pendingChanges.insert(node, PendingChangeKind::Repaint);
-    else if (*it == PendingChangeKind::Removed)
-        *it = PendingChangeKind::Geometry;
+    m_pendingChanges.recordRepaint(node);
     for (NodeImpl *child : node->getChildImpls())
         if (handledHere(child)) nodeRepaintRequired(child);
 }
@@ -160,7 +156,7 @@ void ScenePrivate::nodeRepaintRequired(NodeImpl *node)
 void ScenePrivate::nodeGeometryChanged(NodeImpl *node)
 {
     scheduleViewUpdate();
-    m_pendingChanges[node] = PendingChangeKind::Geometry;
+    m_pendingChanges.recordGeometry(node);
     for (NodeImpl *child : node->getChildImpls())
         if (handledHere(child)) nodeGeometryChanged(child);
     invalidateSceneBounds();

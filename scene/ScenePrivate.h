@@ -33,7 +33,7 @@
 #include "GLUV/Emitter.h"
 #include "GLUV/Listener.h"
 #include "scene/NodeUpdateHandler.h"
-#include "scene/PendingChangeKind.h"
+#include "scene/PendingChanges.h"
 #include "scene/ZOrderingContainer.h"
 
 #include <QGraphicsScene>
@@ -50,8 +50,6 @@ class ScenePrivate : public QGraphicsScene,
                      public ZOrderingContainer,
                      public NodeUpdateHandler {
 public:
-    using PendingChanges = GLOX::GHash<NodeImpl *, PendingChangeKind>;
-
     explicit ScenePrivate(Scene *scene);
     ~ScenePrivate() override;
 
@@ -72,6 +70,7 @@ public:
     void nodeGeometryChanged(NodeImpl *node) override;
     void nodeMoved(NodeImpl *node) override;
     PendingChanges const &getPendingChanges() const { return m_pendingChanges; }
+    std::optional<PendingChangeKind> pendingKindOf(NodeImpl const *node) const { return m_pendingChanges.kindOf(node); }
     // Hands the pending changes to the caller and starts a new batch.
     PendingChanges takePendingChanges();
     // Queues one call of "_q_emitUpdated" unless a batch is already open.

@@ -119,10 +119,9 @@ QRectF SceneServer::takeNodeDirtyRect(ScenePrivate *scene, double scale)
         painted.insert(node, drawn);
         d |= drawn;
     };
-    ScenePrivate::PendingChanges const pending = scene->takePendingChanges();
-    for (auto it = pending.begin(); it != pending.end(); ++it) {
-        NodeImpl *node = it.key();
-        switch (it.value()) {
+    PendingChanges const pending = scene->takePendingChanges();
+    pending.forEach([&](NodeImpl *node, PendingChangeKind kind) {
+        switch (kind) {
         case PendingChangeKind::Removed: // the key only: the node may be gone
             d |= painted.take(node);
             break;
@@ -137,7 +136,7 @@ QRectF SceneServer::takeNodeDirtyRect(ScenePrivate *scene, double scale)
             if (node->getGraphicsItem()->isVisible()) remember(node);
             break;
         }
-    }
+    });
     // Nodes drawn into the area by the way must be erased properly later.
     if (!d.isEmpty())
         for (QGraphicsItem *item : scene->items(d, Qt::IntersectsItemBoundingRect)) {

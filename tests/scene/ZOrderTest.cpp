@@ -29,8 +29,9 @@ protected:
     // Records the nodes that reported since the last call.
     GLOX::GList<NodeImpl *> reported()
     {
-        auto pending = scene->getPrivate()->takePendingChanges();
-        return pending.keys();
+        GLOX::GList<NodeImpl *> keys;
+        scene->getPrivate()->takePendingChanges().forEach([&](NodeImpl *node, PendingChangeKind) { keys.append(node); });
+        return keys;
     }
 
     GLOX::GList<Node> nodes;

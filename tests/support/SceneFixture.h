@@ -31,9 +31,8 @@ inline void runHostLoopTurn() { QCoreApplication::processEvents(); }
 // The pending change kind recorded for `node`, or -1 when there is none.
 inline int pendingKind(Scene &scene, Node const &node)
 {
-    auto const &pending = scene.getPrivate()->getPendingChanges();
-    auto it = pending.find(node.getImpl());
-    return it == pending.end() ? -1 : int(*it);
+    std::optional<PendingChangeKind> kind = scene.getPrivate()->pendingKindOf(node.getImpl());
+    return kind ? int(*kind) : -1;
 }
 
 // Gives each test a scene, and checks that no node outlives the test body
