@@ -197,6 +197,8 @@ public:
         std::uint32_t index = 0;
     };
     PendingSlot &pendingSlot() const { return m_pendingSlot; }
+    // Whether a NodeOwnershipGuard is open on this node. Kept by the guard.
+    bool &ownershipGuarded() { return m_ownershipGuarded; }
 
     // For a scene that dies with this node in it: cuts every link of the
     // node that outlives its memory (weak references, signals, behaviour,
@@ -220,6 +222,7 @@ private:
     Bounds m_boundsCache;
     bool m_offscreenDirty = true;
     mutable PendingSlot m_pendingSlot;
+    bool m_ownershipGuarded = false;
     DrawStyle m_drawStyle;
     CacheType m_cacheType = CacheType::None;
     GLOX::Holder<Behavior> m_behavior;
