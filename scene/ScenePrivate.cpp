@@ -58,8 +58,8 @@ void ScenePrivate::addNodeImpl(NodeImpl *node)
         other->removeNodeImpl(node);
     else if (!m_creationDrawStyles.isEmpty())
         node->setDrawStyle(m_creationDrawStyles.last());
+    stackOnTop(node); // before it joins: Qt then has no scene to tell of the change
     addItem(node->getGraphicsItem());
-    stackOnTop(node);
     nodeGeometryChanged(node);
     nodeCount().add(1);
 }
