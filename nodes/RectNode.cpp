@@ -6,7 +6,7 @@ namespace VOR2 {
 
 RectNode::RectNode() : Node(new RectNodeImpl) {}
 
-RectNode::RectNode(GLOX::GLRect<double> const &rect) : RectNode() { setRect(rect); }
+RectNode::RectNode(GLOX::GLRect<double> const &rect) : Node(new RectNodeImpl(GLOX::toQRectF(rect))) {}
 
 RectNode::RectNode(NodeImpl *impl)
     : Node(impl && impl->isa(RectNodeImpl::TYPE_NAME) ? impl : nullptr)

@@ -11,6 +11,8 @@ public:
     static char const *const TYPE_NAME;
 
     RectNodeImpl() = default;
+    // A new node has nobody to tell of its rectangle: no caches, no scene.
+    explicit RectNodeImpl(QRectF const &rect) : m_rect(rect) {}
 
     char const *getFullyQualifiedTcosTypeName() const override { return TYPE_NAME; }
     bool isa(char const *typeName) const override;
