@@ -21,6 +21,12 @@ MouseEvent mouseAt(EventType type, GLOX::GLPoint<double> p)
 // Records the node's mouse watcher as "name:signal".
 struct NodeSignals : GLUV::Listener {
     std::vector<std::string> seen;
+    // Adds the node to the scene, then watches it.
+    void watchAdded(Scene &scene, Node const &node, std::string const &name)
+    {
+        scene.addNode(node);
+        watch(node, name);
+    }
     void watch(Node const &node, std::string const &name)
     {
         auto &table = NodeEmitterTable::instance();
@@ -44,11 +50,9 @@ using SceneInput = SceneTest;
 TEST_F(SceneInput, MovesHoverTheTopmostNodeAndLeavingTheCanvasEndsIt)
 {
     RectNode a = rect(0, 0, 50, 50), b = rect(100, 0, 50, 50);
-    scene->addNode(a);
-    scene->addNode(b);
     NodeSignals watcher;
-    watcher.watch(a, "a");
-    watcher.watch(b, "b");
+    watcher.watchAdded(*scene, a, "a");
+    watcher.watchAdded(*scene, b, "b");
     GLOX::Holder<RecordingTool> tool(new RecordingTool("t"));
     scene->addTool(tool.get());
 
@@ -73,11 +77,9 @@ TEST_F(SceneInput, MovesHoverTheTopmostNodeAndLeavingTheCanvasEndsIt)
 TEST_F(SceneInput, ToolsPassMouseEventsToTheNodeUnderThePointer)
 {
     RectNode below = rect(0, 0, 50, 50), above = rect(10, 10, 20, 20);
-    scene->addNode(below);
-    scene->addNode(above);
     NodeSignals watcher;
-    watcher.watch(below, "below");
-    watcher.watch(above, "above");
+    watcher.watchAdded(*scene, below, "below");
+    watcher.watchAdded(*scene, above, "above");
     MouseEvent press = mouseAt(EventType::MousePress, {15, 15});
     MouseEvent drag = mouseAt(EventType::MouseMove, {40, 40});
     MouseEvent release = mouseAt(EventType::MouseRelease, {400, 400});
