@@ -151,10 +151,10 @@ public:
 
     // --- Signals --------------------------------------------------------
     GLUV::Emitter<void (*)()> aboutToDestroy{GLUV::SendAuto};
+    // Sent at once, in the setter, when the background changes: every view
+    // of the scene redraws all it shows of it (SceneServer::repaintAll).
     GLUV::Emitter<void (*)(ScenePrivate *)> backgroundChanged{GLUV::SendAuto};
     GLUV::Emitter<void (*)()> toolOverrideCursorChanged{GLUV::SendAuto};
-    // Asks every view of the scene to redraw all of it.
-    GLUV::Emitter<void (*)()> repaintAllRequested{GLUV::SendAuto};
 
     // Takes every top-level node out of the scene: nodes held by a handle
     // live on, detached; the rest die. Called once, as the Scene goes.

@@ -1,5 +1,6 @@
 #include "widget/LayerPainter.h"
 
+#include "widget/BackgroundImage.h"
 #include "widget/Rendering.h"
 #include "widget/ViewGeometry.h"
 
@@ -9,9 +10,9 @@
 namespace VOR2 {
 
 namespace {
-// A layer's background over the exposed area: its colour, or its linear
-// gradient stretched over the visible scene.
-void paintBackground(QPainter *painter, Background const &background, ViewInfo const &view, QRect const &exposed)
+// A layer's background colour over the exposed area, or else its linear
+// gradient stretched over the viewport; other gradients draw nothing.
+void paintBackgroundFill(QPainter *painter, Background const &background, ViewInfo const &view, QRect const &exposed)
 {
     if (background.hasColor()) {
         painter->fillRect(exposed, GLOX::toQColor(background.getColor()));
@@ -35,7 +36,12 @@ void paintLayers(QPainter *painter, Rendering const &rendering, QRect const &exp
     QRectF source = QRectF(exposed).translated(rendering.view.offsetX, rendering.view.offsetY);
     for (auto const &layer : rendering.layers) {
         if (!layer->visible) continue;
-        paintBackground(painter, layer->background, rendering.view, exposed);
+        paintBackgroundFill(painter, layer->background, rendering.view, exposed);
+        if (!layer->backgroundImage.isNull()) {
+            QSize viewport(int(rendering.view.viewWidth + 0.5), int(rendering.view.viewHeight + 0.5));
+            paintBackgroundImage(painter, layer->backgroundImage, layer->background.getImagePlacement(), viewport,
+                                 exposed);
+        }
         painter->drawImage(QRectF(exposed), layer->image, source);
     }
 }

@@ -24,6 +24,9 @@ struct RenderedLayer {
     bool visible = false; // the layer's scene has items
     QImage image;         // view-sized, premultiplied, transparent where nothing is
     Background background;
+    // The background's image, read on the host thread when its name changes;
+    // null when the name gives none.
+    QImage backgroundImage;
 };
 
 class Rendering {

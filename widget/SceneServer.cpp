@@ -7,6 +7,7 @@
 #include "scene/NodeImpl.h"
 #include "scene/SceneRegionRenderer.h"
 #include "scene/ScenePrivate.h"
+#include "widget/BackgroundImage.h"
 #include "widget/ViewGeometry.h"
 
 #include <QPainter>
@@ -182,11 +183,18 @@ void SceneServer::renderLayer(ScenePrivate *scene, QRectF const &givenDirty)
         d |= visible; // the whole viewport shifts
     last = view;
     if (d.width() > 0 && d.height() > 0) m_rendering.dirty |= d;
-    layer.background = scene->getBackground();
+    publishBackground(layer, scene->getBackground());
     layer.visible = !scene->items().isEmpty();
     m_fullRedraw = false;
     renderingEmitter.send(&m_rendering);
     GlobalViewerInfo::instance()->clearCurrentView();
+}
+
+void SceneServer::publishBackground(RenderedLayer &layer, Background const &background)
+{
+    if (background.getImage() != layer.background.getImage())
+        layer.backgroundImage = readBackgroundImage(background.getImage());
+    layer.background = background;
 }
 
 void SceneServer::sceneChanged(QList<QRectF> const &rects)
@@ -223,13 +231,14 @@ void SceneServer::setLayerStack(LayerStack *stack)
 
 void SceneServer::connectScene(ScenePrivate *scene)
 {
-    scene->repaintAllRequested.connect(this, [this, scene] { repaintAll(scene); }, GLUV::Thread::getCurrentThread());
+    scene->backgroundChanged.connect(this, [this](ScenePrivate *changed) { repaintAll(changed); },
+                                     GLUV::Thread::getCurrentThread());
     QObject::connect(scene, &QGraphicsScene::changed, this, &SceneServer::sceneChanged, Qt::DirectConnection);
 }
 
 void SceneServer::disconnectScene(ScenePrivate *scene)
 {
-    scene->repaintAllRequested.disconnect(this);
+    scene->backgroundChanged.disconnect(this);
     QObject::disconnect(scene, &QGraphicsScene::changed, this, &SceneServer::sceneChanged);
     m_paintedBounds.remove(scene);
 }

@@ -86,6 +86,9 @@ private:
     // The area the scene's pending changes touched; clears them.
     QRectF takeNodeDirtyRect(ScenePrivate *scene, double scale);
     QRectF drawnBounds(NodeImpl *node, double scale) const;
+    // Copies the scene's background into the layer's record, reading its
+    // image when the name changed. Under the Rendering lock.
+    void publishBackground(RenderedLayer &layer, Background const &background);
 
     using PaintedBounds = GLOX::GHash<NodeImpl const *, QRectF>;
     // What each node covered when last drawn, in scene coordinates, per

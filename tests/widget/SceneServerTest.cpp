@@ -8,7 +8,9 @@
 #include "scene/ScenePrivate.h"
 #include "support/NodeStyles.h"
 #include "support/PixelCompare.h"
+#include "widget/BackgroundImage.h"
 #include "widget/LayerPainter.h"
+#include "GLOX/ImageCompositor.h"
 #include <HostRuntime>
 #include "widget/SceneServer.h"
 #include "GLServices/HostRunLoop.h"
@@ -46,6 +48,16 @@ protected:
         QRectF d = server.rendering().dirty;
         server.rendering().dirty = QRectF();
         return d;
+    }
+
+    // What the viewer would show of the whole view.
+    QImage composed(int w = 100, int h = 100)
+    {
+        QImage view = transparentImage(w, h);
+        QPainter painter(&view);
+        Rendering::Locker lock(server.rendering());
+        paintLayers(&painter, server.rendering(), QRect(0, 0, w, h));
+        return view;
     }
 
     GLOX::Holder<Scene> scene;
@@ -144,12 +156,7 @@ TEST_F(SceneServerTest, LayersComposeInIndexOrderOverTheirBackgrounds)
     stack.insertLayer(1, GLOX::Holder<Layer>(new Layer(upper.get(), "upper")));
     scene->setBackground(Background(GLOX::Color(1, 1, 0)));
     show(1, 0, 0);
-    QImage view = transparentImage(100, 100);
-    {
-        QPainter painter(&view);
-        Rendering::Locker lock(server.rendering());
-        paintLayers(&painter, server.rendering(), QRect(0, 0, 100, 100));
-    }
+    QImage view = composed();
     EXPECT_TRUE(pixelIs(view, 10, 10, Qt::red));
     EXPECT_TRUE(pixelIs(view, 40, 40, Qt::blue)) << "the upper layer is drawn over the base";
     EXPECT_TRUE(pixelIs(view, 90, 90, Qt::yellow)) << "the base layer's background";
@@ -159,4 +166,78 @@ TEST_F(SceneServerTest, LayersComposeInIndexOrderOverTheirBackgrounds)
 TEST_F(SceneServerTest, ALayerAddedBeforeTheViewSizeIsKnownIsOnePixel)
 {
     EXPECT_EQ(layerImage().size(), QSize(1, 1));
+}
+
+TEST_F(SceneServerTest, AChangedBackgroundReachesEveryViewAtOnce)
+{
+    scene->addNode(solidRect({0, 0, 20, 20}, Qt::red));
+    LayerStack otherStack;
+    otherStack.insertLayer(0, GLOX::Holder<Layer>(new Layer(scene.get(), LayerStack::baseLayerId())));
+    SceneServer other;
+    other.setLayerStack(&otherStack);
+    show(1, 0, 0);
+    other.setPendingViewRequest({1, 0, 0, 60, 60});
+    other.processPendingViewRequest();
+    takeDirty();
+    {
+        Rendering::Locker lock(other.rendering());
+        other.rendering().dirty = QRectF();
+    }
+
+    scene->setBackground(Background(GLOX::Color(0.0, 1.0, 0.0)));
+    // No loop turn: the setter itself reaches the servers.
+    EXPECT_EQ(takeDirty(), QRectF(0, 0, 100, 100)) << "the whole view is repainted";
+    EXPECT_TRUE(pixelIs(composed(), 50, 50, Qt::green));
+    EXPECT_TRUE(pixelIs(composed(), 10, 10, Qt::red)) << "nodes stay over the background";
+    {
+        Rendering::Locker lock(other.rendering());
+        EXPECT_EQ(other.rendering().dirty, QRectF(0, 0, 60, 60)) << "and so is the other canvas's";
+        EXPECT_EQ(other.rendering().layers[0]->background, scene->getBackground());
+    }
+    takeDirty();
+    scene->setBackground(Background(GLOX::Color(0.0, 1.0, 0.0)));
+    EXPECT_TRUE(takeDirty().isEmpty()) << "an equal background repaints nothing";
+    other.setLayerStack(nullptr);
+}
+
+TEST_F(SceneServerTest, ABackgroundImageIsPlacedOverTheViewport)
+{
+    // A 10 by 10 image: blue with a red top-left pixel, under a key of ours.
+    QImage tile(10, 10, QImage::Format_ARGB32_Premultiplied);
+    tile.fill(Qt::blue);
+    tile.setPixelColor(0, 0, Qt::red);
+    auto registered = GLOX::ImageCompositor::Manager::instance().registerImage("customsrc-bg-tile", tile);
+    scene->addNode(solidRect({90, 90, 10, 10}, Qt::green));
+    Background background(GLOX::Color(1.0, 1.0, 0.0));
+    background.setImage("customsrc-bg-tile");
+    scene->setBackground(background);
+    show(1, 0, 0);
+
+    QImage tiled = composed();
+    EXPECT_TRUE(pixelIs(tiled, 0, 0, Qt::red));
+    EXPECT_TRUE(pixelIs(tiled, 30, 50, Qt::red)) << "tiles repeat from the top-left corner";
+    EXPECT_TRUE(pixelIs(tiled, 35, 55, Qt::blue));
+    EXPECT_TRUE(pixelIs(tiled, 95, 95, Qt::green)) << "the scene is drawn over the image";
+
+    background.setImagePlacement(Background::Centre);
+    scene->setBackground(background);
+    QImage centred = composed();
+    EXPECT_TRUE(pixelIs(centred, 45, 45, Qt::red)) << "centred: its corner at (45, 45)";
+    EXPECT_TRUE(pixelIs(centred, 50, 50, Qt::blue));
+    EXPECT_TRUE(pixelIs(centred, 30, 50, Qt::yellow)) << "the colour shows around it";
+
+    background.setImage("customsrc-no-such-image");
+    scene->setBackground(background);
+    EXPECT_TRUE(pixelIs(composed(), 45, 45, Qt::yellow)) << "a name that gives no image draws none";
+}
+
+TEST(BackgroundImagePlacement, EachPlacementHasItsRectangle)
+{
+    QSize image(10, 20), viewport(100, 50);
+    EXPECT_EQ(backgroundImageRect(Background::Tile, image, viewport), QRect(0, 0, 10, 20));
+    EXPECT_EQ(backgroundImageRect(Background::TopLeft, image, viewport), QRect(0, 0, 10, 20));
+    EXPECT_EQ(backgroundImageRect(Background::Centre, image, viewport), QRect(45, 15, 10, 20));
+    EXPECT_EQ(backgroundImageRect(Background::Stretch, image, viewport), QRect(0, 0, 100, 50));
+    EXPECT_TRUE(backgroundImageRect(77, image, viewport).isEmpty()) << "an unknown placement draws nothing";
+    EXPECT_TRUE(backgroundImageRect(Background::Tile, QSize(), viewport).isEmpty());
 }
