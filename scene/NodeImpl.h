@@ -119,6 +119,8 @@ public:
     bool isOffscreenDirty() const { return m_offscreenDirty; }
     void setOffscreenDirty(bool dirty) { m_offscreenDirty = dirty; }
 
+    // How many views this node keeps computed bounds or images for.
+    int viewCacheCount() const { return m_viewCache.count(); }
     // Drops what this node keeps for the view `key`.
     void forgetView(void const *key)
     {

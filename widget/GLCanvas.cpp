@@ -8,19 +8,34 @@
 
 namespace VOR2 {
 
-GLCanvas::GLCanvas() : m_emitters(std::make_unique<GLCanvasEmitters>()), d(std::make_unique<GLCanvasPrivate>(this))
+GLCanvas::GLCanvas(GLOX::StringID const &id, GLOX::GLObject *parent)
+    : GLOX::GLWidget2(id, parent), m_emitters(std::make_unique<GLCanvasEmitters>()),
+      d(std::make_unique<GLCanvasPrivate>(this))
 {
     // The widget reaches back for the server: make it once d is set.
-    d->widget = QtWidgetFactory::createWidgetFor(this);
+    d->widget = QtWidgetFactory::createWidgetFor(this, parent);
+    // The canvas handles these itself: the widget's own handling does not
+    // follow them.
+    for (GLOX::WidgetEventCode code :
+         {GLOX::WidgetEventCode::ContextMenu, GLOX::WidgetEventCode::Wheel, GLOX::WidgetEventCode::KeyPress,
+          GLOX::WidgetEventCode::KeyRelease, GLOX::WidgetEventCode::MouseDoubleClick, GLOX::WidgetEventCode::Drop,
+          GLOX::WidgetEventCode::Resize})
+        setEventConsumed(code, true);
 }
 
-GLCanvas::~GLCanvas() = default;
+GLCanvas::~GLCanvas()
+{
+    m_destroyed.send(this);
+    d.reset();
+}
+
+void GLCanvas::destroy() { delete this; }
 
 LayerStack &GLCanvas::getLayerStack() { return d->layerStack; }
 
 SceneServer &GLCanvas::getSceneServer() { return d->server; }
 
-QWidget *GLCanvas::getWidget() const { return d->widget; }
+QWidget *GLCanvas::getWidget() const { return d->widget.data(); }
 
 Scene *GLCanvas::getScene() const
 {

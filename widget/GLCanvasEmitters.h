@@ -5,6 +5,7 @@
 // EventDispatcher listens on the host thread, so every delivery crosses
 // threads by a queue. Owned by the GLCanvas, which outlives its widget.
 
+#include "GLOX/Cursor.h"
 #include "GLOX/GLWidgetEvents2.h"
 #include "GLUV/Emitter.h"
 
@@ -37,6 +38,10 @@ struct GLCanvasEmitters {
     Focus focusLost{GLUV::SendAuto};
     Widget pointerEntered{GLUV::SendAuto};
     Widget pointerLeft{GLUV::SendAuto};
+
+    // The other way, host to widget: the cursor the scene's tools ask for
+    // (invalid: none). The widget listens while it lives.
+    GLUV::Emitter<void (*)(GLOX::Cursor)> toolCursorChanged{GLUV::SendAuto};
 };
 
 } // namespace VOR2

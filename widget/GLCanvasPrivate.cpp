@@ -16,13 +16,15 @@ GLCanvasPrivate::GLCanvasPrivate(GLCanvas *c) : canvas(c)
     viewRequestPosted.connect(this, [this] { server.processPendingViewRequest(); }, host);
     layerStack.layerAdded.connect(this, [this](int i) { onLayerAdded(i); }, host);
     layerStack.layerRemoved.connect(this, [this](int i) { onLayerRemoved(i); }, host);
+    // Renders and input share one key, so nodes keep one set of caches for
+    // this view.
+    server.setViewKey(canvas->getKey());
     server.setLayerStack(&layerStack);
 }
 
 GLCanvasPrivate::~GLCanvasPrivate()
 {
     QtWidgetFactory::destroyWidget(widget);
-    widget = nullptr;
     disconnectAll();
     server.setLayerStack(nullptr);
 }
@@ -61,7 +63,7 @@ void GLCanvasPrivate::updateCursor()
         Scene *scene = layerStack.getLayer(i)->getScene();
         if (scene && scene->hasToolOverrideCursor()) cursor = scene->getToolOverrideCursor();
     }
-    if (widget) static_cast<QtCanvas *>(widget)->showToolCursor(cursor);
+    canvas->getEmitters().toolCursorChanged.send(cursor);
 }
 
 } // namespace VOR2

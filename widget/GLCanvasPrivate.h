@@ -13,10 +13,10 @@
 #include "widget/EventDispatcher.h"
 #include "widget/SceneServer.h"
 
+#include <QPointer>
+#include <QWidget>
 #include <memory>
 #include <optional>
-
-class QWidget;
 
 namespace VOR2 {
 
@@ -35,7 +35,8 @@ public:
     SceneServer server; // after the stack: it detaches from it first
     // Input of the base layer's scene; null while layer 0 has none.
     std::unique_ptr<EventDispatcher> dispatcher;
-    QWidget *widget = nullptr; // GUI thread object
+    // The GUI thread's object: it may go first, with its window.
+    QPointer<QWidget> widget;
 
 private:
     void onLayerAdded(int index);

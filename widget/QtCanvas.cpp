@@ -24,9 +24,14 @@ QtCanvas::QtCanvas(GLCanvas *canvas, QWidget *parent)
     viewport()->setContextMenuPolicy(Qt::PreventContextMenu);
     viewport()->setAcceptDrops(true);
     setFocusPolicy(Qt::StrongFocus);
-    m_toolCursor.connect(this, [this](GLOX::Cursor cursor) {
+    // The cursor the scene's tools ask for, on this thread in order of the
+    // requests, while this widget lives.
+    m_emitters.toolCursorChanged.connect(this, [this](GLOX::Cursor cursor) {
         cursor.isValid() ? setCursor(cursor.toQCursor()) : unsetCursor();
     });
+    // Everything but resizes, which reach the host as view requests.
+    canvas->enableEventBroadcasting();
+    canvas->disableEventBroadcasting(GLOX::WidgetEventCode::Resize);
     // The viewer info belongs to the host thread: tell it from there.
     double dpi = logicalDpiY();
     if (GLUV::Thread *host = GLUV::Thread::getNamedThread("TARVO"))
@@ -64,6 +69,14 @@ GLOX::GLDragEvent2 QtCanvas::toGL(QDropEvent const *e) const
     return GLOX::GLDragEvent2(m_canvas, glPoint(e->posF()), data, e->mouseButtons(), e->keyboardModifiers());
 }
 
+template <typename Emitter, typename Value>
+void QtCanvas::broadcast(GLOX::WidgetEventCode code, Emitter &emitter, Value const &value)
+{
+    if (m_canvas->isEventBroadcast(code)) emitter.send(value);
+}
+
+bool QtCanvas::consumed(GLOX::WidgetEventCode code) const { return m_canvas->isEventConsumed(code); }
+
 bool QtCanvas::event(QEvent *event)
 {
     // Menus asked for from the keyboard, before the context menu policy
@@ -72,11 +85,14 @@ bool QtCanvas::event(QEvent *event)
         auto *menu = static_cast<QContextMenuEvent *>(event);
         if (menu->reason() == QContextMenuEvent::Keyboard) {
             reportPosition();
-            m_emitters.contextMenu.send(GLOX::GLContextMenuEvent2(m_canvas, menu->globalX(), menu->globalY(),
-                                                                  GLOX::GLContextMenuEvent2::Keyboard));
+            broadcast(GLOX::WidgetEventCode::ContextMenu, m_emitters.contextMenu,
+                      GLOX::GLContextMenuEvent2(m_canvas, menu->globalX(), menu->globalY(),
+                                                GLOX::GLContextMenuEvent2::Keyboard));
         }
-        event->accept();
-        return true;
+        if (consumed(GLOX::WidgetEventCode::ContextMenu)) {
+            event->accept();
+            return true;
+        }
     }
     return SceneViewer::event(event);
 }
@@ -89,42 +105,45 @@ void QtCanvas::mousePressEvent(QMouseEvent *event)
         m_dragArmed = true;
     }
     reportPosition();
-    m_emitters.mousePressed.send(toGL(event));
-    SceneViewer::mousePressEvent(event);
+    broadcast(GLOX::WidgetEventCode::MousePress, m_emitters.mousePressed, toGL(event));
+    consumed(GLOX::WidgetEventCode::MousePress) ? event->accept() : SceneViewer::mousePressEvent(event);
 }
 
 void QtCanvas::mouseMoveEvent(QMouseEvent *event)
 {
     reportPosition();
     if (m_dragArmed && (m_pressGlobalPos - event->screenPos()).manhattanLength() > QApplication::startDragDistance()) {
-        if (m_emitters.userDragInit.connectionCount() > 0)
+        if (m_emitters.userDragInit.connectionCount() > 0 && m_canvas->isEventBroadcast(GLOX::WidgetEventCode::MouseMove))
             m_emitters.userDragInit.send(GLOX::GLMouseEvent2(m_canvas, glPoint(m_pressPos + viewport()->pos()),
                                                              glPoint(m_pressPos), glPoint(m_pressGlobalPos), 0,
                                                              Qt::LeftButton, event->buttons(), event->modifiers()));
         m_dragArmed = false;
     }
-    m_emitters.mouseMoved.send(toGL(event));
-    SceneViewer::mouseMoveEvent(event);
+    broadcast(GLOX::WidgetEventCode::MouseMove, m_emitters.mouseMoved, toGL(event));
+    consumed(GLOX::WidgetEventCode::MouseMove) ? event->accept() : SceneViewer::mouseMoveEvent(event);
 }
 
 void QtCanvas::mouseReleaseEvent(QMouseEvent *event)
 {
     m_dragArmed = false;
     reportPosition();
-    m_emitters.mouseReleased.send(toGL(event));
-    SceneViewer::mouseReleaseEvent(event);
+    broadcast(GLOX::WidgetEventCode::MouseRelease, m_emitters.mouseReleased, toGL(event));
+    consumed(GLOX::WidgetEventCode::MouseRelease) ? event->accept() : SceneViewer::mouseReleaseEvent(event);
 }
 
 void QtCanvas::mouseDoubleClickEvent(QMouseEvent *event)
 {
     reportPosition();
-    m_emitters.mouseDoubleClicked.send(toGL(event));
-    event->accept();
+    broadcast(GLOX::WidgetEventCode::MouseDoubleClick, m_emitters.mouseDoubleClicked, toGL(event));
+    consumed(GLOX::WidgetEventCode::MouseDoubleClick) ? event->accept() : SceneViewer::mouseDoubleClickEvent(event);
 }
 
 void QtCanvas::wheelEvent(QWheelEvent *event)
 {
-    event->accept();
+    if (consumed(GLOX::WidgetEventCode::Wheel))
+        event->accept();
+    else
+        SceneViewer::wheelEvent(event);
     // Whole degrees, 15 per notch. Qt counts eighths of a degree, and fine
     // wheels and touch pads send a few at a time: keep what is left over.
     m_wheelEighths += event->angleDelta().y();
@@ -134,45 +153,47 @@ void QtCanvas::wheelEvent(QWheelEvent *event)
     reportPosition();
     QMouseEvent asMouse(QEvent::MouseMove, event->position(), event->globalPosition(), Qt::NoButton,
                         event->buttons(), event->modifiers());
-    m_emitters.wheel.send(toGL(&asMouse, degrees));
+    broadcast(GLOX::WidgetEventCode::Wheel, m_emitters.wheel, toGL(&asMouse, degrees));
 }
 
 void QtCanvas::keyPressEvent(QKeyEvent *event)
 {
     reportPosition();
-    m_emitters.keyPressed.send(toGL(event));
-    event->accept();
+    broadcast(GLOX::WidgetEventCode::KeyPress, m_emitters.keyPressed, toGL(event));
+    consumed(GLOX::WidgetEventCode::KeyPress) ? event->accept() : SceneViewer::keyPressEvent(event);
 }
 
 void QtCanvas::keyReleaseEvent(QKeyEvent *event)
 {
     reportPosition();
-    m_emitters.keyReleased.send(toGL(event));
-    event->accept();
+    broadcast(GLOX::WidgetEventCode::KeyRelease, m_emitters.keyReleased, toGL(event));
+    consumed(GLOX::WidgetEventCode::KeyRelease) ? event->accept() : SceneViewer::keyReleaseEvent(event);
 }
 
 void QtCanvas::focusInEvent(QFocusEvent *event)
 {
-    m_emitters.focusGained.send(GLOX::GLFocusEvent2(m_canvas, GLOX::Qt2GL(event->reason())));
+    broadcast(GLOX::WidgetEventCode::FocusIn, m_emitters.focusGained,
+              GLOX::GLFocusEvent2(m_canvas, GLOX::Qt2GL(event->reason())));
     SceneViewer::focusInEvent(event);
 }
 
 void QtCanvas::focusOutEvent(QFocusEvent *event)
 {
-    m_emitters.focusLost.send(GLOX::GLFocusEvent2(m_canvas, GLOX::Qt2GL(event->reason())));
+    broadcast(GLOX::WidgetEventCode::FocusOut, m_emitters.focusLost,
+              GLOX::GLFocusEvent2(m_canvas, GLOX::Qt2GL(event->reason())));
     SceneViewer::focusOutEvent(event);
 }
 
 void QtCanvas::enterEvent(QEvent *event)
 {
     reportPosition();
-    m_emitters.pointerEntered.send(GLOX::GLWidgetEvent2(m_canvas));
+    broadcast(GLOX::WidgetEventCode::Enter, m_emitters.pointerEntered, GLOX::GLWidgetEvent2(m_canvas));
     SceneViewer::enterEvent(event);
 }
 
 void QtCanvas::leaveEvent(QEvent *event)
 {
-    m_emitters.pointerLeft.send(GLOX::GLWidgetEvent2(m_canvas));
+    broadcast(GLOX::WidgetEventCode::Leave, m_emitters.pointerLeft, GLOX::GLWidgetEvent2(m_canvas));
     SceneViewer::leaveEvent(event);
 }
 
@@ -181,28 +202,28 @@ void QtCanvas::leaveEvent(QEvent *event)
 void QtCanvas::dragEnterEvent(QDragEnterEvent *event)
 {
     reportPosition();
-    m_emitters.dragEntered.send(toGL(event));
+    broadcast(GLOX::WidgetEventCode::DragEnter, m_emitters.dragEntered, toGL(event));
     event->acceptProposedAction();
 }
 
 void QtCanvas::dragMoveEvent(QDragMoveEvent *event)
 {
     reportPosition();
-    m_emitters.dragMoved.send(toGL(event));
+    broadcast(GLOX::WidgetEventCode::DragMove, m_emitters.dragMoved, toGL(event));
     event->acceptProposedAction();
 }
 
 void QtCanvas::dragLeaveEvent(QDragLeaveEvent *event)
 {
-    m_emitters.dragLeft.send(GLOX::GLWidgetEvent2(m_canvas));
+    broadcast(GLOX::WidgetEventCode::DragLeave, m_emitters.dragLeft, GLOX::GLWidgetEvent2(m_canvas));
     event->accept();
 }
 
 void QtCanvas::dropEvent(QDropEvent *event)
 {
     reportPosition();
-    m_emitters.dropped.send(toGL(event));
-    event->acceptProposedAction();
+    broadcast(GLOX::WidgetEventCode::Drop, m_emitters.dropped, toGL(event));
+    consumed(GLOX::WidgetEventCode::Drop) ? event->acceptProposedAction() : SceneViewer::dropEvent(event);
 }
 
 } // namespace VOR2

@@ -3,8 +3,10 @@
 // QtWidgetFactory: a SceneViewer of the canvas's scene server that
 // broadcasts its input on the canvas's GLCanvasEmitters as foundation
 // event values (positions in viewport pixels), which the host thread turns
-// into library events for the base scene. Input it broadcasts is its own:
-// keys and the wheel no longer scroll, the tools decide.
+// into library events for the base scene. The canvas says which events are
+// broadcast and which it consumes: a consumed event gets no default
+// handling from the scroll area (keys and the wheel do not scroll: the
+// tools decide), any other goes on to it after the broadcast.
 //
 // It also arms a drag on a left press and announces it, from where the
 // button went down, once the pointer has moved past the drag distance, and
@@ -14,9 +16,8 @@
 
 #include "widget/SceneViewer.h"
 
-#include "GLOX/Cursor.h"
 #include "GLOX/GLWidgetEvents2.h"
-#include "GLUV/Emitter.h"
+#include "GLOX/WidgetEventCode.h"
 
 namespace VOR2 {
 
@@ -31,9 +32,6 @@ public:
     explicit QtCanvas(GLCanvas *canvas, QWidget *parent = nullptr);
 
     GLCanvas *canvas() const { return m_canvas; }
-    // Any thread: shows the cursor the scene's tools asked for, or unsets
-    // it for an invalid one, on the GUI thread in order of the calls.
-    void showToolCursor(GLOX::Cursor const &cursor) { m_toolCursor.send(cursor); }
 
 protected:
     bool event(QEvent *event) override;
@@ -60,10 +58,13 @@ private:
     GLOX::GLMouseEvent2 toGL(QMouseEvent const *event, int rotation = 0) const;
     GLOX::GLKeyEvent2 toGL(QKeyEvent const *event) const;
     GLOX::GLDragEvent2 toGL(QDropEvent const *event) const;
+    // Sends `value` on `emitter` if the canvas broadcasts `code`.
+    template <typename Emitter, typename Value>
+    void broadcast(GLOX::WidgetEventCode code, Emitter &emitter, Value const &value);
+    bool consumed(GLOX::WidgetEventCode code) const;
 
     GLCanvas *m_canvas;
     GLCanvasEmitters &m_emitters;
-    GLUV::Emitter<void (*)(GLOX::Cursor)> m_toolCursor{GLUV::SendAuto};
     QPointF m_pressPos; // viewport pixels
     QPointF m_pressGlobalPos;
     bool m_dragArmed = false;

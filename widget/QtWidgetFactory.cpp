@@ -1,17 +1,20 @@
 #include "widget/QtWidgetFactory.h"
 
+#include <GLCanvas>
+
+#include "GLBridge/Bridge.h"
+#include "GLOX/GLObject.h"
 #include "GLUV/Emitter.h"
 #include "GLUV/Listener.h"
 #include "widget/QtCanvas.h"
 
-#include <QMetaObject>
-#include <QThread>
-#include <memory>
+#include <algorithm>
+#include <vector>
 
 namespace VOR2 {
 
 namespace {
-using CreationEmitter = GLUV::Emitter<void (*)(GLCanvas *, QWidget **)>;
+using CreationEmitter = GLUV::Emitter<void (*)(GLCanvas *, GLOX::GLObject const *, QWidget **)>;
 
 CreationEmitter &creationEmitter()
 {
@@ -19,42 +22,55 @@ CreationEmitter &creationEmitter()
     return *emitter;
 }
 
-GLUV::Listener *&factoryListener()
+// GUI thread: the factory's listener and the widgets it made.
+struct Factory : GLUV::Listener {
+    std::vector<QPointer<QWidget>> made;
+};
+
+Factory *&factory()
 {
-    static GLUV::Listener *listener = nullptr;
-    return listener;
+    static Factory *installed = nullptr;
+    return installed;
 }
 } // namespace
 
 void QtWidgetFactory::install()
 {
-    if (factoryListener()) return;
-    factoryListener() = new GLUV::Listener;
-    creationEmitter().connect(factoryListener(), [](GLCanvas *canvas, QWidget **made) {
-        *made = new QtCanvas(canvas);
+    if (factory()) return;
+    factory() = new Factory;
+    creationEmitter().connect(factory(), [](GLCanvas *canvas, GLOX::GLObject const *parent, QWidget **made) {
+        auto *parentWidget = qobject_cast<QWidget *>(GLOX::lookup(parent));
+        *made = new QtCanvas(canvas, parentWidget);
+        GLOX::registerGui(canvas, *made);
+        auto &widgets = factory()->made;
+        widgets.erase(std::remove(widgets.begin(), widgets.end(), QPointer<QWidget>()), widgets.end());
+        widgets.push_back(*made);
     });
 }
 
 void QtWidgetFactory::uninstall()
 {
-    delete factoryListener();
-    factoryListener() = nullptr;
+    Factory *installed = factory();
+    if (!installed) return;
+    factory() = nullptr;
+    // A canvas may outlive the GUI thread: its widget must not outlive it.
+    for (QPointer<QWidget> const &widget : installed->made) delete widget.data();
+    delete installed;
 }
 
-QWidget *QtWidgetFactory::createWidgetFor(GLCanvas *canvas)
+QWidget *QtWidgetFactory::createWidgetFor(GLCanvas *canvas, GLOX::GLObject const *parent)
 {
     QWidget *made = nullptr;
-    creationEmitter().send(canvas, &made);
+    creationEmitter().send(canvas, parent, &made);
     return made;
 }
 
-void QtWidgetFactory::destroyWidget(QWidget *widget)
+void QtWidgetFactory::destroyWidget(QPointer<QWidget> const &widget)
 {
-    if (!widget) return;
-    if (widget->thread() == QThread::currentThread())
-        delete widget;
-    else
-        QMetaObject::invokeMethod(widget, [widget] { delete widget; }, Qt::BlockingQueuedConnection);
+    if (widget.isNull()) return;
+    // The pointer is read where the widget lives: it may have gone with its
+    // window in the meantime. A bridge that has stopped deleted it already.
+    GLBridge::getBridge("qt")->runOnGui([widget] { delete widget.data(); }, true);
 }
 
 } // namespace VOR2

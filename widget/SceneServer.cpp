@@ -155,7 +155,7 @@ void SceneServer::renderLayer(ScenePrivate *scene, QRectF const &givenDirty)
     RenderedLayer &layer = *m_rendering.layers[size_t(index)];
     ViewInfo &view = m_rendering.view;
     double const scale = view.scale;
-    GlobalViewerInfo::instance()->setCurrentView(this, scale);
+    GlobalViewerInfo::instance()->setCurrentView(m_viewKey, scale);
 
     view.sceneRect = GLOX::toDRect(sceneRectOfAllLayers());
     ViewInfo &last = m_renderedViews[size_t(index)];

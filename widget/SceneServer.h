@@ -59,6 +59,12 @@ public:
     // Host thread: redraws the whole visible area of the scene's layer.
     void repaintAll(ScenePrivate *scene);
 
+    // The key under which nodes keep what they compute for this view (see
+    // GlobalViewerInfo): a canvas gives its own, which its input uses too.
+    // The server's address until set.
+    void setViewKey(void const *key) { m_viewKey = key; }
+    void const *getViewKey() const { return m_viewKey; }
+
     // Host thread: the stack whose layers this server draws; null detaches.
     void setLayerStack(LayerStack *stack);
     // Margins in view pixels, as left, top, right, bottom.
@@ -100,6 +106,7 @@ private:
     GLOX::GLRect<double> m_margins;
     bool m_fullRedraw = false;
     LayerStack *m_layerStack = nullptr;
+    void const *m_viewKey = this;
     std::vector<ViewInfo> m_renderedViews; // per layer: the view its image was drawn with
 };
 
