@@ -1,4 +1,7 @@
 #include <Scene>
+#include <Error>
+
+#include <QApplication>
 
 #include "scene/NodeImpl.h"
 #include "scene/ScenePrivate.h"
@@ -17,7 +20,13 @@ GLOX::GList<Node> toNodes(QList<QGraphicsItem *> const &items)
 }
 } // namespace
 
-GLOX::Holder<Scene> Scene::createScene() { return GLOX::Holder<Scene>(new Scene); }
+GLOX::Holder<Scene> Scene::createScene()
+{
+    // Qt's scene takes its fonts and palette from the application: without
+    // one it would crash inside Qt.
+    if (!qobject_cast<QApplication *>(QCoreApplication::instance())) throwError(VOR2_InvalidScene);
+    return GLOX::Holder<Scene>(new Scene);
+}
 
 Scene *Scene::of(ScenePrivate const *d) { return d ? d->getScene() : nullptr; }
 

@@ -2,11 +2,14 @@
 
 #include "GLBridge/Bridge.h"
 #include "GLServices/HostRunLoop.h"
+#include "GLUV/Thread.h"
 #include "ut/Assert.h"
 #include "widget/QtWidgetFactory.h"
 #include "widget/VOREventDispatcher.h"
 
+#include <QThread>
 #include <atomic>
+#include <stdexcept>
 
 namespace VOR2 {
 
@@ -16,8 +19,15 @@ std::atomic<GLServices::HostRunLoop *> s_loop{nullptr};
 
 void HostRuntime::start()
 {
-    ut_assert(!s_loop);
-    bridge().start();
+    if (s_loop) {
+        if (GLUV::Thread::getNamedThread("TARVO") == GLUV::Thread::getCurrentThread()) return;
+        throw std::logic_error("HostRuntime::start: the runtime runs already, with another host thread");
+    }
+    // Qt's dispatcher of the host thread stays installed after a stop.
+    if (VOREventDispatcher *installed = VOREventDispatcher::instance())
+        if (installed->thread() != QThread::currentThread())
+            throw std::logic_error("HostRuntime::start: the host thread cannot change once the runtime has run");
+    bridge().start(); // may refuse, with nothing changed
     s_loop = new GLServices::HostRunLoop;
     VOREventDispatcher::install();
     // Canvases made from now on get their widgets on the GUI thread.

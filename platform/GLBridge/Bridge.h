@@ -11,8 +11,13 @@
 // wake-up handler that makes the Qt loop run its GLUV queue, so GLUV
 // deliveries to that thread work.
 //
-// Once per process: start, use, stop. It cannot start again after a stop,
-// since Qt allows one GUI thread per process.
+// When the process already has a QApplication (a host with a Qt GUI of its
+// own), start() makes no thread and no application: the application's
+// thread becomes the GUI thread, and stop() gives it back untouched. The
+// application must run its event loop on a thread other than the caller's.
+//
+// A GUI thread of the bridge's own starts once per process: after a stop it
+// cannot start again, since Qt allows one GUI thread per process.
 
 #include <functional>
 #include <memory>
@@ -35,12 +40,21 @@ public:
     std::string name() const { return "qt"; }
 
     // Any thread but the GUI thread: starts the GUI thread and returns once
-    // its QApplication exists. Does nothing while running.
+    // its QApplication exists, or takes the existing QApplication's thread
+    // for it. Does nothing while running. Throws std::logic_error, having
+    // changed nothing, when the process has a QCoreApplication that is no
+    // QApplication, when the caller's thread runs the QApplication, when the
+    // QApplication's thread does not answer within ten seconds (its event
+    // loop does not run), or when its own GUI thread has stopped before.
     void start();
     // Any thread but the GUI thread: quits the Qt loop, destroys the
-    // QApplication and waits for the GUI thread to end. Work still queued
-    // for it is dropped. Does nothing when not running.
+    // QApplication and waits for the GUI thread to end; an adopted
+    // application only loses the bridge's hold and runs on. Work still queued
+    // for the GUI thread is dropped. Does nothing when not running.
     void stop();
+    // Any thread: true while the GUI thread is an application's the bridge
+    // did not make.
+    bool isAdopted() const;
     // Any thread.
     bool isRunning() const;
     // Any thread: the GUI thread's GLUV object, null when not running.
