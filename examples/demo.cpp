@@ -73,17 +73,6 @@ bool parse(int argc, char **argv, Options &o)
     return true;
 }
 
-// Ends the host loop when the user closes the window.
-class CloseWatcher : public QObject {
-public:
-    explicit CloseWatcher(QObject *parent) : QObject(parent) {}
-    bool eventFilter(QObject *, QEvent *event) override
-    {
-        if (event->type() == QEvent::Close) VOR2::HostRuntime::loop().quit();
-        return false;
-    }
-};
-
 // Shows the scene in a canvas window and runs the host loop until the
 // window is closed, or, with a screenshot path, until the fitted view is on
 // screen and saved there.
@@ -93,13 +82,7 @@ void showInWindow(VOR2::Scene *scene, std::string const &screenshot)
     VOR2::GLCanvas canvas;
     canvas.setScene(scene);
     QWidget *window = canvas.getWidget();
-    VOR2::HostRuntime::bridge().runOnGui([window] {
-        window->setWindowTitle("VOR2 gallery");
-        window->resize(900, 600);
-        window->installEventFilter(new CloseWatcher(window)); // lives and dies with the window
-        window->show();
-    }, true);
-    VOR2::HostRuntime::loop().runUntil([&] { return canvas.getViewExtents().x > 0; }, 5000ms);
+    VOR2::HostRuntime::showWindow(canvas, 900, 600, "VOR2 gallery");
     canvas.zoomToSceneRect();
     // Pointer position and node kind in the title, wheel zoom, a hand over nodes.
     GLOX::Holder<demo::DemoInputTool> tool(new demo::DemoInputTool(scene, window));
@@ -117,7 +100,7 @@ void showInWindow(VOR2::Scene *scene, std::string const &screenshot)
     }
     std::printf("A window shows the gallery (the wheel zooms, the title tells what is under the pointer); close it "
                 "to end.\n");
-    VOR2::HostRuntime::loop().runUntil([] { return false; }, std::chrono::hours(24));
+    VOR2::HostRuntime::runWhileWindowsShown();
     scene->removeTool(tool.get());
 }
 } // namespace
