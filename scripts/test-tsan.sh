@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Builds the test binaries that run the host thread and the GUI thread
-# together (test_runtime, and test_widget once tests/widget has tests) with
+# together (test_runtime, test_widget, test_lifecycle) with
 # ThreadSanitizer, in a build folder of its own, and runs them. Fails on any
 # report.
 #
@@ -14,8 +14,7 @@ set -euo pipefail
 root="$(cd "$(dirname "$0")/.." && pwd)"
 dir="${1:-$root/build-tsan}"
 flags=-fsanitize=thread
-targets=(test_runtime)
-if compgen -G "$root/tests/widget/*.cpp" >/dev/null; then targets+=(test_widget); fi
+targets=(test_runtime test_widget test_lifecycle)
 
 export TSAN_OPTIONS="ignore_noninstrumented_modules=1 halt_on_error=1 second_deadlock_stack=1"
 export QT_QPA_PLATFORM=offscreen
@@ -29,7 +28,12 @@ if setarch "$(uname -m)" -R true 2>/dev/null; then norandom=(setarch "$(uname -m
 "${norandom[@]}" "$root/scripts/build.sh" "$dir" -DVOR2_BUILD_TESTS=ON \
   -DCMAKE_CXX_FLAGS="$flags" -DCMAKE_EXE_LINKER_FLAGS="$flags" -DCMAKE_SHARED_LINKER_FLAGS="$flags" \
   -- "${targets[@]}"
-for t in "${targets[@]}"; do
+for t in test_runtime test_widget; do
   echo "== $t under ThreadSanitizer"
   "${norandom[@]}" "$dir/tests/$t"
+done
+# The life-cycle tests need a process each.
+for name in $("$dir/tests/test_lifecycle" --gtest_list_tests | awk '/^[^ ]/ {suite=$1} /^  / {print suite $1}'); do
+  echo "== test_lifecycle $name under ThreadSanitizer"
+  "${norandom[@]}" "$dir/tests/test_lifecycle" --gtest_filter="$name"
 done
