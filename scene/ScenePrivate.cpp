@@ -128,8 +128,15 @@ void ScenePrivate::collectSurvivors(NodeImpl *node, GLOX::GList<NodeImpl *> &sur
 void ScenePrivate::scheduleViewUpdate()
 {
     if (!m_pendingChanges.isEmpty()) return;
-    QMetaObject::invokeMethod(this, "_q_emitUpdated", Qt::QueuedConnection);
+    QMetaObject::invokeMethod(this, [this] { deliverChanges(); }, Qt::QueuedConnection);
     Diagnostics::add(QUEUED_UPDATES, 1);
+}
+
+void ScenePrivate::deliverChanges()
+{
+    m_delivered = std::move(m_pendingChanges); // changes the views make now open a new batch
+    QMetaObject::invokeMethod(this, "_q_emitUpdated", Qt::DirectConnection);
+    m_delivered.clear();
 }
 
 PendingChanges ScenePrivate::takePendingChanges()

@@ -5,11 +5,13 @@
 //
 // The path of a change: a node reports to its handler (by default this
 // scene), which records the node in pendingChanges as Repaint, Geometry or
-// Removed. The first record of a batch queues one call of Qt's
-// "_q_emitUpdated"; when the host loop runs it, Qt emits
-// changed(QList<QRectF>), and whoever draws the scene reads and clears the
-// pending changes. Removed entries hold the raw pointer of a node that may
-// be dead by then: read them by key only.
+// Removed. The first record of a batch queues one delivery; when the host
+// loop runs it, the batch becomes the changes being delivered, Qt's
+// "_q_emitUpdated" emits changed(QList<QRectF>) at once, and every view of
+// the scene reads the same batch in its handler (changesBeingDelivered);
+// then the batch is dropped. So each canvas showing the scene sees every
+// change, whichever draws first. Removed entries hold the raw pointer of a
+// node that may be dead by then: read them by key only.
 //
 // Input: every event the scene receives first makes the event's canvas the
 // current view (node caches and hit tests then answer for that view);
@@ -71,9 +73,14 @@ public:
     void nodeMoved(NodeImpl *node) override;
     PendingChanges const &getPendingChanges() const { return m_pendingChanges; }
     std::optional<PendingChangeKind> pendingKindOf(NodeImpl const *node) const { return m_pendingChanges.kindOf(node); }
-    // Hands the pending changes to the caller and starts a new batch.
+    // Hands the pending changes to the caller and starts a new batch (for
+    // tests and tools that read changes outside the views).
     PendingChanges takePendingChanges();
-    // Queues one call of "_q_emitUpdated" unless a batch is already open.
+    // While changed() is being emitted for a delivered batch: that batch,
+    // for every view to read. Empty at any other time, and in emissions of
+    // changed() that Qt makes on its own.
+    PendingChanges const &changesBeingDelivered() const { return m_delivered; }
+    // Queues one delivery unless a batch is already open.
     void scheduleViewUpdate();
     void invalidateSceneBounds();
 
@@ -161,6 +168,9 @@ public:
     virtual void destroyScene();
 
 private:
+    // The queued delivery: hands the pending batch to every view through
+    // one emission of changed(), then drops it.
+    void deliverChanges();
     // Marks `node` and its subtree Removed.
     void markRemovedSubtree(NodeImpl *node);
     // The nodes of `node`'s subtree that a handle holds and whose ancestors
@@ -183,6 +193,7 @@ private:
     ToolStack m_toolStack;
     ToolFactory m_toolFactory;
     PendingChanges m_pendingChanges;
+    PendingChanges m_delivered;
     bool m_debugRepaintRegion = false;
     GLOX::Color m_debugRepaintRegionColor{0.0, 1.0, 0.0, 0.5};
     bool m_trackingPerformance = false;

@@ -120,8 +120,9 @@ QRectF SceneServer::takeNodeDirtyRect(ScenePrivate *scene, double scale)
         painted.insert(node, drawn);
         d |= drawn;
     };
-    PendingChanges const pending = scene->takePendingChanges();
-    pending.forEach([&](NodeImpl *node, PendingChangeKind kind) {
+    // Every server of the scene reads the one batch being delivered; outside
+    // a delivery there is none, and the changes come with the next one.
+    scene->changesBeingDelivered().forEach([&](NodeImpl *node, PendingChangeKind kind) {
         switch (kind) {
         case PendingChangeKind::Removed: // the key only: the node may be gone
             d |= painted.take(node);

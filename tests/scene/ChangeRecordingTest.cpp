@@ -5,6 +5,8 @@
 
 #include "support/SceneFixture.h"
 
+#include <vector>
+
 using namespace VOR2;
 using namespace VOR2::test;
 
@@ -19,11 +21,15 @@ protected:
     void SetUp() override
     {
         SceneTest::SetUp();
-        QObject::connect(scene->getPrivate(), &QGraphicsScene::changed, [this] { ++changedSignals; });
+        QObject::connect(scene->getPrivate(), &QGraphicsScene::changed, [this] {
+            ++changedSignals;
+            deliveredSizes.push_back(scene->getPrivate()->changesBeingDelivered().size());
+        });
         node = added(rect(0, 0));
         runHostLoopTurn();
         scene->getPrivate()->takePendingChanges();
         changedSignals = 0;
+        deliveredSizes.clear();
     }
     void TearDown() override
     {
@@ -36,6 +42,7 @@ protected:
 
     RectNode node{static_cast<NodeImpl *>(nullptr)};
     int changedSignals = 0;
+    std::vector<int> deliveredSizes; // what each changed() handed to the views
 };
 } // namespace
 
@@ -121,10 +128,11 @@ TEST_F(ChangeRecording, OneQueuedCallPerBatch)
     EXPECT_EQ(changedSignals, 0) << "nothing is announced before the host loop turns";
 
     runHostLoopTurn();
-    EXPECT_GE(changedSignals, 1);
-    EXPECT_EQ(scene->getPrivate()->getPendingChanges().size(), 2) << "the reader clears, not the signal";
+    ASSERT_GE(changedSignals, 1);
+    EXPECT_EQ(deliveredSizes.front(), 2) << "every reader of the signal sees the whole batch";
+    EXPECT_EQ(scene->getPrivate()->getPendingChanges().size(), 0) << "then the batch is gone";
+    EXPECT_EQ(scene->getPrivate()->changesBeingDelivered().size(), 0);
 
-    clear();
     node.setPosition({100, 0});
     EXPECT_EQ(queuedCalls(), before + 2) << "a new batch queues a new call";
     runHostLoopTurn();

@@ -241,3 +241,27 @@ TEST(BackgroundImagePlacement, EachPlacementHasItsRectangle)
     EXPECT_TRUE(backgroundImageRect(77, image, viewport).isEmpty()) << "an unknown placement draws nothing";
     EXPECT_TRUE(backgroundImageRect(Background::Tile, QSize(), viewport).isEmpty());
 }
+
+TEST_F(SceneServerTest, EveryViewOfASceneSeesEveryChange)
+{
+    RectNode moving = solidRect({10, 10, 10, 10}, Qt::red);
+    scene->addNode(moving);
+    LayerStack otherStack;
+    otherStack.insertLayer(0, GLOX::Holder<Layer>(new Layer(scene.get(), LayerStack::baseLayerId())));
+    SceneServer other;
+    other.setLayerStack(&otherStack);
+    show(1, 0, 0);
+    other.setPendingViewRequest({2, 0, 0, 100, 100});
+    other.processPendingViewRequest();
+    settle();
+
+    moving.setPosition({20, 0}); // now over 30 to 40
+    settle();
+    for (SceneServer *server : {&this->server, &other}) {
+        double s = server->rendering().view.scale;
+        QImage const &image = server->rendering().layers[0]->image;
+        EXPECT_TRUE(pixelIs(image, int(35 * s), int(15 * s), Qt::red)) << "drawn where it went, at scale " << s;
+        EXPECT_TRUE(pixelIs(image, int(15 * s), int(15 * s), Qt::transparent)) << "erased where it was, at scale " << s;
+    }
+    other.setLayerStack(nullptr);
+}
