@@ -1,7 +1,11 @@
-// ScenePrivate: the extent of a scene, cached between geometry changes.
+// ScenePrivate: the extent of a scene, cached between geometry changes. A
+// node whose extent in the scene is not a rectangle of usable numbers (see
+// values/UsableNumber.h) counts for nothing, so that one such node cannot
+// spoil the extent of all the others.
 
 #include "scene/NodeImpl.h"
 #include "scene/ScenePrivate.h"
+#include "values/UsableNumber.h"
 
 namespace VOR2 {
 
@@ -24,7 +28,8 @@ GLOX::GLRect<double> ScenePrivate::getNodesBounds()
     for (QGraphicsItem *item : items()) {
         if (!hasExtent(item)) continue;
         Bounds inScene = NodeImpl::fromItem(item)->getBounds().transformed(item->sceneTransform());
-        united |= GLOX::toQRectF(inScene.boundingRect());
+        QRectF const r = GLOX::toQRectF(inScene.boundingRect());
+        if (hasUsableArea(r)) united |= r;
     }
     m_nodesBounds = GLOX::toDRect(united);
     return m_nodesBounds;
@@ -34,8 +39,11 @@ GLOX::GLRect<double> ScenePrivate::getVisibleItemsRect()
 {
     if (usable(m_visibleItemsRect)) return m_visibleItemsRect;
     QRectF united;
-    for (QGraphicsItem *item : items())
-        if (hasExtent(item)) united |= item->sceneBoundingRect();
+    for (QGraphicsItem *item : items()) {
+        if (!hasExtent(item)) continue;
+        QRectF const r = item->sceneBoundingRect();
+        if (hasUsableArea(r)) united |= r;
+    }
     m_visibleItemsRect = GLOX::toDRect(united);
     return m_visibleItemsRect;
 }
