@@ -10,9 +10,9 @@
 namespace VOR2 {
 
 namespace {
-// Usable only when both width and height are positive: an empty scene
-// recomputes on each call.
-bool usable(GLOX::GLRect<double> const &r) { return r.width > 0 && r.height > 0; }
+// A cached extent counts only when both width and height are positive: an
+// empty scene recomputes on each call.
+bool isCached(GLOX::GLRect<double> const &r) { return r.width > 0 && r.height > 0; }
 
 bool hasExtent(QGraphicsItem const *item)
 {
@@ -23,7 +23,7 @@ bool hasExtent(QGraphicsItem const *item)
 
 GLOX::GLRect<double> ScenePrivate::getNodesBounds()
 {
-    if (usable(m_nodesBounds)) return m_nodesBounds;
+    if (isCached(m_nodesBounds)) return m_nodesBounds;
     QRectF united;
     for (QGraphicsItem *item : items()) {
         if (!hasExtent(item)) continue;
@@ -37,7 +37,7 @@ GLOX::GLRect<double> ScenePrivate::getNodesBounds()
 
 GLOX::GLRect<double> ScenePrivate::getVisibleItemsRect()
 {
-    if (usable(m_visibleItemsRect)) return m_visibleItemsRect;
+    if (isCached(m_visibleItemsRect)) return m_visibleItemsRect;
     QRectF united;
     for (QGraphicsItem *item : items()) {
         if (!hasExtent(item)) continue;
