@@ -1,6 +1,7 @@
 #include <EllipseNode>
 
 #include "nodes/EllipseNodeImpl.h"
+#include "values/UsableNumber.h"
 
 namespace VOR2 {
 
@@ -13,6 +14,15 @@ EllipseNode::EllipseNode(NodeImpl *impl)
 {
 }
 
+namespace {
+// Every change of the rectangle comes here: one that is not usable is
+// ignored.
+void setUsableRect(EllipseNodeImpl *impl, QRectF const &r)
+{
+    if (isUsable(r)) impl->setRect(r);
+}
+} // namespace
+
 char const *EllipseNode::staticGetFullyQualifiedTcosTypeName() { return EllipseNodeImpl::TYPE_NAME; }
 
 double EllipseNode::getWidth() const { return getValidEllipseNodeImpl()->rect().width(); }
@@ -24,7 +34,7 @@ void EllipseNode::setWidth(double width) const
     EllipseNodeImpl *impl = getValidEllipseNodeImpl();
     QRectF r = impl->rect();
     r.setWidth(width);
-    impl->setRect(r);
+    setUsableRect(impl, r);
 }
 
 void EllipseNode::setHeight(double height) const
@@ -32,7 +42,7 @@ void EllipseNode::setHeight(double height) const
     EllipseNodeImpl *impl = getValidEllipseNodeImpl();
     QRectF r = impl->rect();
     r.setHeight(height);
-    impl->setRect(r);
+    setUsableRect(impl, r);
 }
 
 GLOX::Size<double> EllipseNode::getSize() const { return GLOX::toDSize(getValidEllipseNodeImpl()->rect().size()); }
@@ -40,7 +50,7 @@ GLOX::Size<double> EllipseNode::getSize() const { return GLOX::toDSize(getValidE
 void EllipseNode::setSize(GLOX::Size<double> const &size) const
 {
     EllipseNodeImpl *impl = getValidEllipseNodeImpl();
-    impl->setRect(QRectF(impl->rect().topLeft(), GLOX::toQSizeF(size)));
+    setUsableRect(impl, QRectF(impl->rect().topLeft(), GLOX::toQSizeF(size)));
 }
 
 GLOX::GLPoint<double> EllipseNode::getCenter() const
@@ -54,14 +64,14 @@ void EllipseNode::setCenter(GLOX::GLPoint<double> const &center) const
     EllipseNodeImpl *impl = getValidEllipseNodeImpl();
     QSizeF size = impl->rect().size();
     QPointF topLeft = GLOX::toQPointF(center) - 0.5 * QPointF(size.width(), size.height());
-    impl->setRect(QRectF(topLeft, size));
+    if (isUsable(center)) setUsableRect(impl, QRectF(topLeft, size));
 }
 
 Ellipse EllipseNode::getEllipse() const { return Ellipse(GLOX::toDRect(getValidEllipseNodeImpl()->rect())); }
 
 void EllipseNode::setEllipse(Ellipse const &ellipse) const
 {
-    getValidEllipseNodeImpl()->setRect(GLOX::toQRectF(ellipse.rect()));
+    setUsableRect(getValidEllipseNodeImpl(), GLOX::toQRectF(ellipse.rect()));
 }
 
 EllipseNodeImpl *EllipseNode::getEllipseNodeImpl() const { return static_cast<EllipseNodeImpl *>(getImpl()); }

@@ -3,7 +3,10 @@
 #include <Image>
 
 #include "nodes/StylePainter.h"
+#include "values/UsableNumber.h"
 
+#include <algorithm>
+#include <climits>
 #include <cstdio>
 
 namespace VOR2 {
@@ -12,6 +15,9 @@ char const *const ImageNodeImpl::TYPE_NAME = "VOR2.ImageNode";
 
 namespace {
 using CompositorNode = GLOX::Holder<GLOX::ImageCompositor::Node>;
+
+// A size in whole pixels, as far as an int reaches.
+int toPixels(double extent) { return int(std::clamp(extent, double(-INT_MAX), double(INT_MAX))); }
 
 // The key a client image is registered under: unique while the image lives.
 std::string customSourceFor(Image const *image)
@@ -63,6 +69,7 @@ bool ImageNodeImpl::isNullImage() const
 
 void ImageNodeImpl::setSize(double width, double height)
 {
+    if (!isUsable(width) || !isUsable(height)) return;
     if (width == m_size.x && height == m_size.y) return;
     prepareItemGeometryChange(); // while Qt can still see the old rectangle
     m_size = {width, height};
@@ -92,7 +99,7 @@ void ImageNodeImpl::paintContents(QPainter *painter, QStyleOptionGraphicsItem co
 {
     if (isNullImage() || !m_imageNode->doCreateImage()) return;
     applyDrawStyle(painter, getDrawStyle(), paintScale(painter));
-    painter->drawImage(QRect(0, 0, int(m_size.x), int(m_size.y)), m_imageNode->image());
+    painter->drawImage(QRect(0, 0, toPixels(m_size.x), toPixels(m_size.y)), m_imageNode->image());
 }
 
 void ImageNodeImpl::paintMask(QPainter *painter, double scale, GLOX::GLRect<double> const &rect)

@@ -1,13 +1,15 @@
 #include <LineNode>
 
 #include "nodes/LineNodeImpl.h"
+#include "values/UsableNumber.h"
 
 namespace VOR2 {
 
 LineNode::LineNode() : Node(new LineNodeImpl) {}
 
 LineNode::LineNode(GLOX::GLPoint<double> const &start, GLOX::GLPoint<double> const &end)
-    : Node(new LineNodeImpl(GLOX::toQPointF(start), GLOX::toQPointF(end)))
+    : Node(isUsable(start) && isUsable(end) ? new LineNodeImpl(GLOX::toQPointF(start), GLOX::toQPointF(end))
+                                            : new LineNodeImpl)
 {
 }
 

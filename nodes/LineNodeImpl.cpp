@@ -4,6 +4,7 @@
 
 #include "nodes/OutlineStroker.h"
 #include "nodes/StylePainter.h"
+#include "values/UsableNumber.h"
 
 #include <QPainterPathStroker>
 #include <algorithm>
@@ -24,6 +25,7 @@ void LineNodeImpl::setEnd(QPointF const &end) { setLine(m_start, end); }
 
 void LineNodeImpl::setLine(QPointF const &start, QPointF const &end)
 {
+    if (!isUsable(start) || !isUsable(end)) return;
     prepareItemGeometryChange();
     m_start = start;
     m_end = end;

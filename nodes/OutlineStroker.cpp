@@ -11,7 +11,9 @@ QPainterPath strokeOutline(QPainterPath const &path, Stroke const &stroke, doubl
 {
     QPen pen = penForStroke(stroke, scale);
     QPainterPathStroker stroker;
-    stroker.setWidth(pen.widthF());
+    // The width in scene units, also where the pen has to carry it in
+    // device pixels.
+    stroker.setWidth(stroke.width(scale));
     if (shape == StrokerShape::FromStroke) {
         stroker.setCapStyle(pen.capStyle());
         stroker.setJoinStyle(pen.joinStyle());

@@ -1,12 +1,16 @@
 #include <RectNode>
 
 #include "nodes/RectNodeImpl.h"
+#include "values/UsableNumber.h"
 
 namespace VOR2 {
 
 RectNode::RectNode() : Node(new RectNodeImpl) {}
 
-RectNode::RectNode(GLOX::GLRect<double> const &rect) : Node(new RectNodeImpl(GLOX::toQRectF(rect))) {}
+RectNode::RectNode(GLOX::GLRect<double> const &rect)
+    : Node(new RectNodeImpl(isUsable(rect) ? GLOX::toQRectF(rect) : QRectF()))
+{
+}
 
 RectNode::RectNode(NodeImpl *impl)
     : Node(impl && impl->isa(RectNodeImpl::TYPE_NAME) ? impl : nullptr)

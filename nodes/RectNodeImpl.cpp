@@ -1,6 +1,7 @@
 #include "nodes/RectNodeImpl.h"
 
 #include "nodes/StylePainter.h"
+#include "values/UsableNumber.h"
 
 namespace VOR2 {
 
@@ -13,6 +14,7 @@ bool RectNodeImpl::isa(char const *typeName) const
 
 void RectNodeImpl::setRect(QRectF const &rect)
 {
+    if (!isUsable(rect)) return;
     if (rect.x() == m_rect.x() && rect.y() == m_rect.y() && rect.width() == m_rect.width() &&
         rect.height() == m_rect.height())
         return;

@@ -1,13 +1,15 @@
 #include <RoundedRectNode>
 
 #include "nodes/RoundedRectNodeImpl.h"
+#include "values/UsableNumber.h"
 
 namespace VOR2 {
 
 RoundedRectNode::RoundedRectNode() : Node(new RoundedRectNodeImpl) {}
 
 RoundedRectNode::RoundedRectNode(GLOX::GLRect<double> const &rect, double radius)
-    : Node(new RoundedRectNodeImpl(GLOX::toQRectF(rect), radius))
+    : Node(new RoundedRectNodeImpl(isUsable(rect) ? GLOX::toQRectF(rect) : QRectF(),
+                                   isUsable(radius) ? radius : 0.0))
 {
 }
 

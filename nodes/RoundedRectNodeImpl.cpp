@@ -5,6 +5,7 @@
 #include "nodes/MaskStyle.h"
 #include "nodes/OutlineStroker.h"
 #include "nodes/StylePainter.h"
+#include "values/UsableNumber.h"
 
 namespace VOR2 {
 
@@ -17,6 +18,7 @@ bool RoundedRectNodeImpl::isa(char const *typeName) const
 
 void RoundedRectNodeImpl::setRect(QRectF const &rect)
 {
+    if (!isUsable(rect)) return;
     if (rect.x() == m_rect.x() && rect.y() == m_rect.y() && rect.width() == m_rect.width() &&
         rect.height() == m_rect.height())
         return;
@@ -27,7 +29,7 @@ void RoundedRectNodeImpl::setRect(QRectF const &rect)
 
 void RoundedRectNodeImpl::setRadius(double radius)
 {
-    if (!(radius > 0.0) || radius == m_radius) return;
+    if (!(radius > 0.0) || !isUsable(radius) || radius == m_radius) return;
     prepareItemGeometryChange();
     m_radius = radius;
     notifyGeometryChanged(false);

@@ -34,12 +34,30 @@ Qt::PenStyle toQtPenStyle(StrokeStyle style)
 
 // One minus 2^-52: the largest width times scale that counts as thin.
 constexpr double THIN_LINE_LIMIT = 0.9999999999999998;
+
+// QPen refuses a width of 2^15 or more, with a warning, and keeps its old
+// width; widths stay below it.
+constexpr double PEN_WIDTH_LIMIT = 32767.0;
+
+// Gives `pen` the width `w` in scene units at view `scale`. A width QPen
+// cannot take (a hairline far out, say) becomes the same width in device
+// pixels on a cosmetic pen, which looks the same under a uniform scale.
+void setPenWidth(QPen &pen, double w, double scale)
+{
+    if (w <= PEN_WIDTH_LIMIT) {
+        pen.setWidthF(w);
+        return;
+    }
+    double device = w * scale;
+    pen.setCosmetic(true);
+    pen.setWidthF(device >= 0.0 && device <= PEN_WIDTH_LIMIT ? device : PEN_WIDTH_LIMIT);
+}
 } // namespace
 
 QPen penForStroke(Stroke const &stroke, double scale)
 {
     QPen pen(GLOX::toQColor(stroke.color()));
-    pen.setWidthF(stroke.width(scale));
+    setPenWidth(pen, stroke.width(scale), scale);
     pen.setCapStyle(toQtCap(stroke.capStyle()));
     pen.setJoinStyle(toQtJoin(stroke.joinStyle()));
     pen.setStyle(toQtPenStyle(stroke.style()));

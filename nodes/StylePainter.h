@@ -16,7 +16,9 @@ class QPainter;
 namespace VOR2 {
 
 // The pen of `stroke` at view `scale`: its colour, the width of
-// Stroke::width(scale), its cap, join and line style.
+// Stroke::width(scale), its cap, join and line style. A width of 2^15 or
+// more, which QPen refuses, is given in device pixels on a cosmetic pen
+// (at most 32767 of them).
 QPen penForStroke(Stroke const &stroke, double scale);
 
 // The brush of `fill`: none, a solid colour, or its gradient.

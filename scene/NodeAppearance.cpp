@@ -8,6 +8,7 @@
 #include "scene/NodeImpl.h"
 
 #include <QGraphicsScene>
+#include <cmath>
 
 namespace VOR2 {
 
@@ -26,7 +27,14 @@ bool setFlag(NodeImpl *impl, QGraphicsItem::GraphicsItemFlag flag, bool on)
 }
 } // namespace
 
-void Node::setOpacity(double opacity) const { getValidImpl()->getGraphicsItem()->setOpacity(opacity); }
+// Qt clamps the opacity to [0, 1]; a NaN, which has no place there, is
+// ignored.
+void Node::setOpacity(double opacity) const
+{
+    NodeImpl *impl = getValidImpl();
+    if (std::isnan(opacity)) return;
+    impl->getGraphicsItem()->setOpacity(opacity);
+}
 double Node::getOpacity() const { return getValidImpl()->getGraphicsItem()->opacity(); }
 
 void Node::setDrawStyle(DrawStyle const &style) const { getValidImpl()->setDrawStyle(style); }
@@ -90,7 +98,12 @@ void Node::setStacksBehindParent(bool behind) const
 }
 bool Node::isStacksBehindParent() const { return hasFlag(getValidImpl(), QGraphicsItem::ItemStacksBehindParent); }
 
-void Node::setCacheType(CacheType type) const { getValidImpl()->setCacheType(type); }
+void Node::setCacheType(CacheType type) const
+{
+    NodeImpl *impl = getValidImpl();
+    if (type != CacheType::None && type != CacheType::Self && type != CacheType::ChildrenTree) return;
+    impl->setCacheType(type);
+}
 CacheType Node::getCacheType() const { return getValidImpl()->getCacheType(); }
 
 // ------------------------------------------------------------------ cursor

@@ -3,16 +3,23 @@
 #include <Node>
 
 #include "scene/NodeImpl.h"
+#include "values/UsableNumber.h"
 
 #include <QtMath>
 
 namespace VOR2 {
 
 namespace {
-void combineTransform(NodeImpl *impl, QTransform const &t)
+// Combines `t` with the item's transform and reports; answers false, and
+// changes nothing, when the result holds a number that is not usable.
+bool combineTransform(NodeImpl *impl, QTransform const &t)
 {
-    impl->getGraphicsItem()->setTransform(t, true);
+    QGraphicsItem *item = impl->getGraphicsItem();
+    QTransform const combined = t * item->transform();
+    if (!isUsable(combined)) return false;
+    item->setTransform(combined);
     impl->notifyGeometryChanged(true);
+    return true;
 }
 } // namespace
 
@@ -23,6 +30,7 @@ GLOX::GLPoint<double> Node::getPosition() const { return GLOX::toDPoint(getValid
 void Node::setPosition(GLOX::GLPoint<double> const &p) const
 {
     NodeImpl *impl = getValidImpl();
+    if (!isUsable(p)) return;
     QPointF old = impl->getGraphicsItem()->pos();
     if (old.x() == p.x && old.y() == p.y) return;
     impl->getGraphicsItem()->setPos(p.x, p.y);
@@ -80,23 +88,31 @@ GLOX::Transform Node::getTransform() const { return getValidImpl()->getGraphicsI
 void Node::setTransform(GLOX::Transform const &t) const
 {
     NodeImpl *impl = getValidImpl();
-    if (impl->getGraphicsItem()->transform() == t.toQTransform()) return;
+    if (!isUsable(t.toQTransform()) || impl->getGraphicsItem()->transform() == t.toQTransform()) return;
     impl->getGraphicsItem()->setTransform(t.toQTransform());
     impl->notifyGeometryChanged(true);
 }
 
 void Node::clearTransform() const { setTransform(GLOX::Transform()); }
 
-void Node::rotateDegrees(double degrees) const { combineTransform(getValidImpl(), QTransform().rotate(degrees)); }
+// An angle beyond the coordinate limit has lost every digit that would
+// tell one turn from another: it is ignored like a NaN.
+void Node::rotateDegrees(double degrees) const
+{
+    NodeImpl *impl = getValidImpl();
+    if (isUsable(degrees)) combineTransform(impl, QTransform().rotate(degrees));
+}
 
 void Node::rotateRadians(double radians) const { rotateDegrees(qRadiansToDegrees(radians)); }
 
 void Node::rotateDegreesAroundPoint(double degrees, GLOX::GLPoint<double> const &p) const
 {
+    NodeImpl *impl = getValidImpl();
+    if (!isUsable(degrees) || !isUsable(p)) return;
     // Move the point to the origin, rotate, move it back.
     QTransform t = QTransform::fromTranslate(-p.x, -p.y) * QTransform().rotate(degrees) *
                    QTransform::fromTranslate(p.x, p.y);
-    combineTransform(getValidImpl(), t);
+    combineTransform(impl, t);
 }
 
 void Node::rotateRadiansAroundPoint(double radians, GLOX::GLPoint<double> const &p) const
@@ -114,14 +130,14 @@ void Node::scale(double sx, double sy) const { combineTransform(getValidImpl(), 
 // These two forms report twice, as they always have.
 void Node::translate(GLOX::GLPoint<double> const &d) const
 {
-    translate(d.x, d.y);
-    getValidImpl()->notifyGeometryChanged(true);
+    NodeImpl *impl = getValidImpl();
+    if (combineTransform(impl, QTransform::fromTranslate(d.x, d.y))) impl->notifyGeometryChanged(true);
 }
 
 void Node::scale(double s) const
 {
-    scale(s, s);
-    getValidImpl()->notifyGeometryChanged(true);
+    NodeImpl *impl = getValidImpl();
+    if (combineTransform(impl, QTransform::fromScale(s, s))) impl->notifyGeometryChanged(true);
 }
 
 // ------------------------------------------------------ bounds, hit tests
@@ -134,11 +150,23 @@ double Node::getWidth() const { return getBoundingRect().width; }
 
 double Node::getHeight() const { return getBoundingRect().height; }
 
-bool Node::contains(GLOX::GLPoint<double> const &p) const { return getValidImpl()->contains(p); }
+bool Node::contains(GLOX::GLPoint<double> const &p) const
+{
+    NodeImpl *impl = getValidImpl();
+    return isUsable(p) && impl->contains(p);
+}
 
-bool Node::intersects(GLOX::GLRect<double> const &r) const { return getValidImpl()->intersects(r); }
+bool Node::intersects(GLOX::GLRect<double> const &r) const
+{
+    NodeImpl *impl = getValidImpl();
+    return isUsable(r) && impl->intersects(r);
+}
 
-bool Node::intersects(Bounds const &b) const { return getValidImpl()->intersects(b); }
+bool Node::intersects(Bounds const &b) const
+{
+    NodeImpl *impl = getValidImpl();
+    return isUsable(b.boundingRect()) && impl->intersects(b);
+}
 
 void Node::setCustomHitTestFunctor(CustomHitTestFunctor *functor) const
 {

@@ -4,6 +4,7 @@
 #include <Diagnostics>
 
 #include "nodes/StylePainter.h"
+#include "scene/ImageExtent.h"
 #include "scene/NodeImpl.h"
 
 #include <QPainter>
@@ -19,11 +20,13 @@ char const *const OFFSCREEN_REPAINTS = "Scene:Node offscreen repaint count";
 
 // A transparent premultiplied image of `bounds` at `lod`, with a border of
 // one device pixel, and a painter on it set up in the bounds' coordinates.
+// A null image when no image of that extent can be made.
 QImage borderedImage(QRectF const &bounds, double lod)
 {
     // Geometry is never normalised, so bounds may run left or up.
-    QImage image(int(std::ceil(bounds.width() * lod)) + 2, int(std::ceil(bounds.height() * lod)) + 2,
-                 QImage::Format_ARGB32_Premultiplied);
+    QSize const size = imageExtent(std::ceil(bounds.width() * lod) + 2, std::ceil(bounds.height() * lod) + 2);
+    if (size.isEmpty()) return QImage();
+    QImage image(size, QImage::Format_ARGB32_Premultiplied);
     image.fill(0);
     return image;
 }
@@ -80,6 +83,7 @@ void NodeImpl::drawOffscreenImage(QRectF const &bounds, double lod)
 {
     Diagnostics::add(OFFSCREEN_REPAINTS, 1);
     QImage image = borderedImage(bounds, lod);
+    if (image.isNull()) return; // too large for an image: the node paints directly
     {
         QPainter painter(&image);
         setUpBorderedPainter(painter, bounds, lod, m_drawStyle.isAntiAliased());
@@ -145,6 +149,7 @@ QImage NodeImpl::renderToImage(CacheType type, double scale)
     }
     QRectF rect = GLOX::toQRectF(bounds.boundingRect()).normalized();
     QImage image = borderedImage(rect, scale);
+    if (image.isNull()) return image;
     QPainter painter(&image);
     setUpBorderedPainter(painter, rect, scale, m_drawStyle.isAntiAliased());
     QStyleOptionGraphicsItem option;

@@ -6,9 +6,18 @@
 
 #include "scene/NodeImpl.h"
 
+#include <cmath>
+
 namespace VOR2 {
 
 namespace {
+// The stacking operations step z values by one; beyond 2^53 a step of one
+// is lost to rounding, and infinities or NaN never order. Such a z value
+// would tie every node stacked on top later, so it is refused.
+constexpr double Z_LIMIT = 9007199254740992.0; // 2^53
+
+bool isSteppableZ(double z) { return std::isfinite(z) && std::fabs(z) <= Z_LIMIT; }
+
 GLOX::GList<NodeImpl *> validImpls(GLOX::GList<Node> const &nodes)
 {
     GLOX::GList<NodeImpl *> impls;
@@ -28,6 +37,7 @@ ZOrderingContainer *firstContainer(GLOX::GList<Node> const &nodes)
 void Node::setZValue(double z) const
 {
     NodeImpl *impl = getValidImpl();
+    if (!isSteppableZ(z)) return;
     if (ZOrderingContainer *c = impl->getZContainer()) c->setZValue(impl, z);
 }
 

@@ -5,6 +5,7 @@
 
 #include "scene/NodeImpl.h"
 #include "scene/ScenePrivate.h"
+#include "values/UsableNumber.h"
 
 #include <QGraphicsItem>
 
@@ -63,21 +64,25 @@ Node Scene::removeNode(Node const &node)
 
 Node Scene::getNodeAt(GLOX::GLPoint<double> const &p) const
 {
+    if (!isUsable(p)) return Node();
     return Node(NodeImpl::fromItem(d->itemAt(GLOX::toQPointF(p), QTransform())));
 }
 
 GLOX::GList<Node> Scene::getNodesAtScenePos(GLOX::GLPoint<double> const &p) const
 {
+    if (!isUsable(p)) return {};
     return toNodes(d->items(GLOX::toQPointF(p)));
 }
 
 GLOX::GList<Node> Scene::getNodesWithinRect(GLOX::GLRect<double> const &r) const
 {
+    if (!isUsable(r)) return {};
     return toNodes(d->items(GLOX::toQRectF(r), Qt::ContainsItemBoundingRect));
 }
 
 GLOX::GList<Node> Scene::getNodesIntersectingRect(GLOX::GLRect<double> const &r) const
 {
+    if (!isUsable(r)) return {};
     return toNodes(d->items(GLOX::toQRectF(r), Qt::IntersectsItemShape));
 }
 

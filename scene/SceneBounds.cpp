@@ -1,14 +1,18 @@
-// ScenePrivate: the extent of a scene, cached between geometry changes.
+// ScenePrivate: the extent of a scene, cached between geometry changes. A
+// node whose extent in the scene is not a rectangle of usable numbers (see
+// values/UsableNumber.h) counts for nothing, so that one such node cannot
+// spoil the extent of all the others.
 
 #include "scene/NodeImpl.h"
 #include "scene/ScenePrivate.h"
+#include "values/UsableNumber.h"
 
 namespace VOR2 {
 
 namespace {
-// Usable only when both width and height are positive: an empty scene
-// recomputes on each call.
-bool usable(GLOX::GLRect<double> const &r) { return r.width > 0 && r.height > 0; }
+// A cached extent counts only when both width and height are positive: an
+// empty scene recomputes on each call.
+bool isCached(GLOX::GLRect<double> const &r) { return r.width > 0 && r.height > 0; }
 
 bool hasExtent(QGraphicsItem const *item)
 {
@@ -19,12 +23,13 @@ bool hasExtent(QGraphicsItem const *item)
 
 GLOX::GLRect<double> ScenePrivate::getNodesBounds()
 {
-    if (usable(m_nodesBounds)) return m_nodesBounds;
+    if (isCached(m_nodesBounds)) return m_nodesBounds;
     QRectF united;
     for (QGraphicsItem *item : items()) {
         if (!hasExtent(item)) continue;
         Bounds inScene = NodeImpl::fromItem(item)->getBounds().transformed(item->sceneTransform());
-        united |= GLOX::toQRectF(inScene.boundingRect());
+        QRectF const r = GLOX::toQRectF(inScene.boundingRect());
+        if (hasUsableArea(r)) united |= r;
     }
     m_nodesBounds = GLOX::toDRect(united);
     return m_nodesBounds;
@@ -32,10 +37,13 @@ GLOX::GLRect<double> ScenePrivate::getNodesBounds()
 
 GLOX::GLRect<double> ScenePrivate::getVisibleItemsRect()
 {
-    if (usable(m_visibleItemsRect)) return m_visibleItemsRect;
+    if (isCached(m_visibleItemsRect)) return m_visibleItemsRect;
     QRectF united;
-    for (QGraphicsItem *item : items())
-        if (hasExtent(item)) united |= item->sceneBoundingRect();
+    for (QGraphicsItem *item : items()) {
+        if (!hasExtent(item)) continue;
+        QRectF const r = item->sceneBoundingRect();
+        if (hasUsableArea(r)) united |= r;
+    }
     m_visibleItemsRect = GLOX::toDRect(united);
     return m_visibleItemsRect;
 }

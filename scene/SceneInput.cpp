@@ -13,6 +13,7 @@
 #include <WidgetEvent>
 
 #include "scene/NodeImpl.h"
+#include "values/UsableNumber.h"
 
 namespace VOR2 {
 
@@ -51,6 +52,7 @@ void ScenePrivate::handleKeyReleaseEvent(KeyEvent &e) { enter(e, &ToolStack::han
 
 NodeImpl *ScenePrivate::nodeAt(GLOX::GLPoint<double> const &scenePos) const
 {
+    if (!isUsable(scenePos)) return nullptr; // an event at no real place hits nothing
     return NodeImpl::fromItem(itemAt(GLOX::toQPointF(scenePos), QTransform()));
 }
 

@@ -3,9 +3,11 @@
 #include <Scene>
 
 #include "nodes/StylePainter.h"
+#include "scene/ImageExtent.h"
 #include "scene/NodeImpl.h"
 #include "scene/RenderViewScope.h"
 #include "scene/ScenePrivate.h"
+#include "values/UsableNumber.h"
 
 #include <QImage>
 #include <QPainter>
@@ -16,9 +18,17 @@
 namespace VOR2 {
 
 namespace {
+// A source that is not a valid rectangle of usable numbers stands for the
+// whole scene.
 QRectF sourceOrWholeScene(ScenePrivate *d, GLOX::GLRect<double> const &source)
 {
-    return GLOX::toQRectF(source.isValid() ? source : d->getNodesBounds());
+    return GLOX::toQRectF(source.isValid() && isUsable(source) ? source : d->getNodesBounds());
+}
+
+// A target that is not usable counts as none: the whole device.
+QRectF targetOrNone(GLOX::GLRect<double> const &target)
+{
+    return isUsable(target) ? GLOX::toQRectF(target) : QRectF();
 }
 
 QColor backgroundColor(ScenePrivate *d) { return GLOX::toQColor(d->getBackground().getColor()); }
@@ -41,27 +51,27 @@ GLOX::Holder<Image> Scene::render(int margin) const { return render(margin, GLOX
 GLOX::Holder<Image> Scene::render(int margin, GLOX::GLRect<double> const &source) const
 {
     QRectF from = sourceOrWholeScene(d, source);
-    int width = int(std::ceil(from.width())) + 2 * margin;
-    int height = int(std::ceil(from.height())) + 2 * margin;
-    QImage image(std::max(width, 0), std::max(height, 0), QImage::Format_RGB32);
+    double const m = std::max(margin, 0);
+    QSize const size = imageExtent(from.width() + 2 * m, from.height() + 2 * m);
+    if (size.isEmpty()) return Image::fromQImage(QImage());
+    QImage image(size, QImage::Format_RGB32);
     image.fill(0xffffffff);
-    if (width > 0 && height > 0) {
-        QRectF target(0, 0, width, height);
-        QRectF widened(from.x() - margin, from.y() - margin, width, height);
-        QPainter painter(&image);
-        painter.fillRect(target, backgroundColor(d));
-        renderAsOwnView(d, painter, target, widened);
-    }
+    QRectF target(0, 0, size.width(), size.height());
+    QRectF widened(from.x() - m, from.y() - m, size.width(), size.height());
+    QPainter painter(&image);
+    painter.fillRect(target, backgroundColor(d));
+    renderAsOwnView(d, painter, target, widened);
     return Image::fromQImage(image);
 }
 
 void Scene::render(QImage &image, GLOX::GLRect<double> const &source, GLOX::GLRect<double> const &target) const
 {
+    if (image.isNull()) return;
     QRectF from = sourceOrWholeScene(d, source);
     image.fill(0xffffffff);
     QPainter painter(&image);
     painter.fillRect(image.rect(), backgroundColor(d));
-    renderAsOwnView(d, painter, GLOX::toQRectF(target), from);
+    renderAsOwnView(d, painter, targetOrNone(target), from);
 }
 
 void Scene::render(QPrinter &printer, GLOX::GLRect<double> const &source, GLOX::GLRect<double> const &target) const
@@ -72,7 +82,7 @@ void Scene::render(QPrinter &printer, GLOX::GLRect<double> const &source, GLOX::
 
 void Scene::render(QPainter &painter, GLOX::GLRect<double> const &source, GLOX::GLRect<double> const &target) const
 {
-    renderAsOwnView(d, painter, GLOX::toQRectF(target), sourceOrWholeScene(d, source));
+    renderAsOwnView(d, painter, targetOrNone(target), sourceOrWholeScene(d, source));
 }
 
 GLOX::GLRect<double> Scene::getBounds() const { return d->getNodesBounds(); }
@@ -89,6 +99,7 @@ bool Scene::getTrackingPerformance() const { return d->getTrackingPerformance();
 GLOX::Holder<Image> Node::render(CacheType type, double scale) const
 {
     NodeImpl *impl = getValidImpl();
+    if (!(scale > 0) || !isUsable(scale)) return Image::fromQImage(QImage());
     RenderViewScope view(scale);
     return Image::fromQImage(impl->renderToImage(type, scale));
 }

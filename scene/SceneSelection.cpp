@@ -5,6 +5,7 @@
 
 #include "scene/NodeImpl.h"
 #include "scene/ScenePrivate.h"
+#include "values/UsableNumber.h"
 
 namespace VOR2 {
 
@@ -17,11 +18,13 @@ void setSelectedIfDifferent(QGraphicsItem *item, bool on)
 
 void Scene::setSelection(GLOX::GLPoint<double> const &p, bool on)
 {
+    if (!isUsable(p)) return;
     setSelectedIfDifferent(d->itemAt(GLOX::toQPointF(p), QTransform()), on);
 }
 
 void Scene::setSelection(GLOX::GLRect<double> const &r, bool on)
 {
+    if (!isUsable(r)) return;
     for (QGraphicsItem *item : d->items(GLOX::toQRectF(r), Qt::IntersectsItemShape)) setSelectedIfDifferent(item, on);
 }
 

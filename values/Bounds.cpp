@@ -4,6 +4,7 @@
 #include <RoundedRect>
 
 #include "values/PainterPathBoundsImpl.h"
+#include "values/UsableNumber.h"
 
 #include <QPolygonF>
 
@@ -239,8 +240,10 @@ void Bounds::intersectWith(Bounds const &o)
 
 void Bounds::unionWith(Bounds const &o)
 {
-    if (o.isEmpty()) return;
-    if (isEmpty()) {
+    // A region whose rectangle holds numbers that are not usable counts as
+    // empty here, so that it cannot spoil the union of good ones.
+    if (o.isEmpty() || !isUsable(o.m_rect)) return;
+    if (isEmpty() || !isUsable(m_rect)) {
         *this = o;
         return;
     }

@@ -3,6 +3,7 @@
 #include <Error>
 
 #include "scene/NodeImpl.h"
+#include "values/UsableNumber.h"
 
 #include <QTransform>
 #include <QtMath>
@@ -39,14 +40,30 @@ void LineEndDecoration::setNode(Node const &node)
     updateTransform();
 }
 
+namespace {
+template <typename T>
+void setIfUsable(T &field, T const &value)
+{
+    if (isUsable(value)) field = value;
+}
+} // namespace
+
+void LineEndDecoration::setPosition(GLOX::GLPoint<double> const &p) { setIfUsable(m_position, p); }
+void LineEndDecoration::setOrigin(GLOX::GLPoint<double> const &p) { setIfUsable(m_origin, p); }
+void LineEndDecoration::setRotation(double radians) { setIfUsable(m_rotation, radians); }
+void LineEndDecoration::setRelativePosition(double d) { setIfUsable(m_relativePosition, d); }
+void LineEndDecoration::setLineBackoff(double d) { setIfUsable(m_lineBackoff, d); }
+
 void LineEndDecoration::setReferenceDirection(GLOX::GLPoint<double> const &v)
 {
+    if (!isUsable(v)) return;
     if (isZeroLength(v)) throwError(VOR2_ZeroLengthDirectionVector);
     m_referenceDirection = v;
 }
 
 void LineEndDecoration::setDirection(GLOX::GLPoint<double> const &d)
 {
+    if (!isUsable(d)) return;
     m_rotation = signedAngle(m_referenceDirection, d);
     updateTransform();
 }

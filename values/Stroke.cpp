@@ -1,10 +1,17 @@
 #include <Stroke>
 
+#include "values/UsableNumber.h"
+
 namespace VOR2 {
+
+namespace {
+// A logical width a stroke can hold: a usable number, not negative.
+bool isWidth(double w) { return isUsable(w) && w >= 0.0; }
+} // namespace
 
 Stroke::Stroke(GLOX::Color const &color, double logicalWidth, StrokeStyle style, StrokeCapStyle capStyle,
                StrokeJoinStyle joinStyle, LodScale const *scaleFunction)
-    : m_color(color), m_logicalWidth(logicalWidth), m_style(style), m_capStyle(capStyle),
+    : m_color(color), m_logicalWidth(isWidth(logicalWidth) ? logicalWidth : 0.0), m_style(style), m_capStyle(capStyle),
       m_joinStyle(joinStyle), m_scaleFunction(scaleFunction ? scaleFunction : LodScale::instance())
 {
 }
@@ -14,10 +21,15 @@ void Stroke::setScaleFunction(LodScale const *function)
     m_scaleFunction = function ? function : LodScale::instance();
 }
 
+void Stroke::setLogicalWidth(double width)
+{
+    if (isWidth(width)) m_logicalWidth = width;
+}
+
 double Stroke::width(double scale) const
 {
-    if (m_logicalWidth == 0.0) return 1.0 / scale;
-    return m_logicalWidth * m_scaleFunction->scale(scale);
+    double const w = m_logicalWidth == 0.0 ? 1.0 / scale : m_logicalWidth * m_scaleFunction->scale(scale);
+    return isWidth(w) ? w : 0.0;
 }
 
 bool Stroke::operator==(Stroke const &o) const

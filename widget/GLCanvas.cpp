@@ -55,7 +55,10 @@ void GLCanvas::setScene(Scene *scene)
 ViewInfo GLCanvas::getViewInfo() const { return d->server.getViewInfo(); }
 
 GLCanvas::Rect GLCanvas::getMargins() const { return d->server.getMargins(); }
-void GLCanvas::setMargins(Rect const &margins) { d->server.setMargins(margins); }
+void GLCanvas::setMargins(Rect const &margins)
+{
+    if (view::isFinite(margins)) d->server.setMargins(margins);
+}
 
 GLCanvas::Point GLCanvas::getViewExtents() const
 {
@@ -72,7 +75,10 @@ GLCanvas::Rect GLCanvas::sceneRectToViewRect(Rect const &r) const { return view:
 GLCanvas::Point GLCanvas::viewPointToScenePoint(Point const &p) const { return view::viewToScene(getViewInfo(), p); }
 GLCanvas::Point GLCanvas::scenePointToViewPoint(Point const &p) const { return view::sceneToView(getViewInfo(), p); }
 
-void GLCanvas::setMarquee(Rect const &rect) { d->server.setMarquee(rect); }
+void GLCanvas::setMarquee(Rect const &rect)
+{
+    if (view::isFinite(rect)) d->server.setMarquee(rect);
+}
 
 void GLCanvas::setScale(double scale) { d->post(view::setScale(getViewInfo(), scale)); }
 
@@ -101,7 +107,9 @@ void GLCanvas::setInitialSceneOriginAndScale(Point const &origin, double scale)
     ViewInfo v = getViewInfo();
     double w = v.viewWidth < 0 || v.viewHeight < 0 ? 1.0 : v.viewWidth;
     double h = v.viewWidth < 0 || v.viewHeight < 0 ? 1.0 : v.viewHeight;
-    d->server.setPendingViewRequest({scale, origin.x, origin.y, w, h});
+    ViewRequest const request{scale, origin.x, origin.y, w, h};
+    if (!view::isUsable(request)) return;
+    d->server.setPendingViewRequest(request);
     d->server.processPendingViewRequest(); // at once, on this thread
 }
 

@@ -1,8 +1,28 @@
 #include "widget/ViewGeometry.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace VOR2::view {
+
+namespace {
+std::optional<ViewRequest> ifUsable(ViewRequest const &request)
+{
+    if (!isUsable(request)) return std::nullopt;
+    return request;
+}
+} // namespace
+
+bool isUsable(ViewRequest const &r)
+{
+    return std::isfinite(r.scale) && r.scale > 0 && std::isfinite(r.originX) && std::isfinite(r.originY) &&
+           std::isfinite(r.width) && std::isfinite(r.height);
+}
+
+bool isFinite(Rect const &r)
+{
+    return std::isfinite(r.x) && std::isfinite(r.y) && std::isfinite(r.width) && std::isfinite(r.height);
+}
 
 Point viewToScene(ViewInfo const &v, Point const &p)
 {
@@ -49,8 +69,8 @@ ViewRequest fitRect(Rect const &r, double width, double height)
 
 std::optional<ViewRequest> showSceneRect(ViewInfo const &v, Rect const &r)
 {
-    if (!(r.width > 0) || !(r.height > 0)) return std::nullopt;
-    return fitRect(r, v.viewWidth, v.viewHeight);
+    if (!(r.width > 0) || !(r.height > 0) || !isFinite(r)) return std::nullopt;
+    return ifUsable(fitRect(r, v.viewWidth, v.viewHeight));
 }
 
 std::optional<ViewRequest> showScenePointAtViewPoint(ViewInfo const &v, Point const &p, Point const &q,
@@ -75,9 +95,9 @@ std::optional<ViewRequest> setScaleAroundScenePoint(ViewInfo const &v, double sc
     return showScenePointAtViewPoint(v, p, sceneToView(v, p), scale);
 }
 
-ViewRequest translate(ViewInfo const &v, double dx, double dy)
+std::optional<ViewRequest> translate(ViewInfo const &v, double dx, double dy)
 {
-    return {v.scale, v.originX - dx, v.originY - dy, v.viewWidth, v.viewHeight};
+    return ifUsable({v.scale, v.originX - dx, v.originY - dy, v.viewWidth, v.viewHeight});
 }
 
 std::optional<ViewRequest> zoomToSceneRect(ViewInfo const &v)

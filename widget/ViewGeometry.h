@@ -2,7 +2,9 @@
 // The arithmetic of views: conversions between view pixels and scene
 // coordinates, and the placements a canvas asks for. Pure functions of a
 // ViewInfo; the placements answer the ViewRequest to post, or nothing when
-// the input leaves the view as it is.
+// the input leaves the view as it is. A placement whose input or result
+// holds a NaN or an infinity, or whose scale is not positive, answers
+// nothing: no such number ever reaches a view.
 
 #include <ViewInfo>
 #include <ViewRequest>
@@ -23,6 +25,12 @@ Rect viewToScene(ViewInfo const &v, Rect const &r);
 Rect sceneToView(ViewInfo const &v, Rect const &r);
 // The scene rectangle the viewport shows.
 Rect visibleSceneRect(ViewInfo const &v);
+
+// Whether a request can be applied: a positive finite scale, and a finite
+// origin and size.
+bool isUsable(ViewRequest const &request);
+// Whether every number of `r` is finite.
+bool isFinite(Rect const &r);
 
 // The view with `request` applied: scale, origin and size from the
 // request, offsets reset.
@@ -46,7 +54,7 @@ std::optional<ViewRequest> setScale(ViewInfo const &v, double scale);
 // Zoom keeping scene point `p` where it is in the view.
 std::optional<ViewRequest> setScaleAroundScenePoint(ViewInfo const &v, double scale, Point const &p);
 // Moves the origin by (-dx, -dy) scene units, whatever the scale.
-ViewRequest translate(ViewInfo const &v, double dx, double dy);
+std::optional<ViewRequest> translate(ViewInfo const &v, double dx, double dy);
 // Fits all content with the margins; nothing for an empty scene or a view
 // without available size.
 std::optional<ViewRequest> zoomToSceneRect(ViewInfo const &v);

@@ -62,7 +62,7 @@ TEST(ViewGeometry, ZoomKeepsItsPivotAndRejectsOnlyNonPositiveScales)
 
 TEST(ViewGeometry, TranslationIsInSceneUnitsWhateverTheScale)
 {
-    ViewRequest r = translate(viewOf(2, 50, 50), 10, 0);
+    ViewRequest r = translate(viewOf(2, 50, 50), 10, 0).value();
     EXPECT_EQ(r, (ViewRequest{2, 40, 50, 200, 100}));
     EXPECT_EQ(sceneToView(overlaid(viewOf(2, 50, 50), r), Point(50, 50)).x, 20) << "20 view pixels";
 }
