@@ -7,6 +7,7 @@
 #include "scene/NodeImpl.h"
 #include "scene/SceneRegionRenderer.h"
 #include "scene/ScenePrivate.h"
+#include "values/UsableNumber.h"
 #include "widget/BackgroundImage.h"
 #include "widget/ViewGeometry.h"
 
@@ -108,7 +109,11 @@ void SceneServer::repaintAll(ScenePrivate *scene)
 QRectF SceneServer::drawnBounds(NodeImpl *node, double scale) const
 {
     QRectF local = GLOX::toQRectF(node->getCachedMaximumBounds(scale).boundingRect());
-    return node->getGraphicsItem()->sceneTransform().mapRect(local);
+    QRectF drawn = node->getGraphicsItem()->sceneTransform().mapRect(local);
+    if (isUsable(drawn) || drawn.isEmpty()) return drawn;
+    // Nested transforms can carry a node beyond the numbers a rectangle
+    // keeps: it may cover anything, so it dirties everything there is.
+    return QRectF(-COORDINATE_LIMIT, -COORDINATE_LIMIT, 2 * COORDINATE_LIMIT, 2 * COORDINATE_LIMIT);
 }
 
 QRectF SceneServer::takeNodeDirtyRect(ScenePrivate *scene, double scale)

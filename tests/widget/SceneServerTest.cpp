@@ -265,3 +265,26 @@ TEST_F(SceneServerTest, EveryViewOfASceneSeesEveryChange)
     }
     other.setLayerStack(nullptr);
 }
+
+TEST_F(SceneServerTest, ANodeBeyondUsableNumbersDirtiesTheWholeViewNotNothing)
+{
+    scene->addNode(solidRect({0, 0, 20, 20}, Qt::blue));
+    RectNode outer = solidRect({0, 0, 1, 1}, Qt::green);
+    scene->addNode(outer);
+    outer.scale(1e100);
+    RectNode inner = outer;
+    for (int depth = 0; depth < 3; ++depth) { // 1e400 in scene units: past what a double holds
+        RectNode child = solidRect({0, 0, 1, 1}, Qt::red);
+        child.setParent(inner);
+        child.scale(1e100);
+        inner = child;
+    }
+    show(1, 0, 0);
+    settle();
+    takeDirty();
+
+    inner.setVisible(false);
+    settle();
+    EXPECT_EQ(takeDirty(), QRectF(0, 0, 100, 100)) << "the whole view is redrawn";
+    EXPECT_TRUE(pixelIs(layerImage(), 10, 10, Qt::blue)) << "the ordinary node is drawn again";
+}
