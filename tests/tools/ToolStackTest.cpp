@@ -5,6 +5,7 @@
 #include <Scene>
 #include <ToolFactory>
 #include <ToolStack>
+#include <ToolState>
 
 #include "GLUV/Listener.h"
 #include "scene/ScenePrivate.h"
@@ -100,6 +101,66 @@ TEST(ToolStack, RolesAreUniqueAndReplaceInPlace)
     EXPECT_EQ(b->removed, 1);
     EXPECT_EQ(s.stack.getToolByRole("zoom"), nullptr);
     EXPECT_FALSE(s.stack.removeTool(b.get())) << "already gone";
+}
+
+namespace {
+// A tool whose state table row names a different member for each event,
+// so that a row read in the wrong order shows.
+struct Machine : RecordingTool {
+    using State = CallbackToolState<Machine>;
+    Machine()
+        : RecordingTool("machine"),
+          full(*this, State::Row{&Machine::pressed, &Machine::moved, &Machine::released, &Machine::keyPressed,
+                                 &Machine::keyReleased, &Machine::menu}),
+          pressOnly(*this, State::Row{&Machine::pressed})
+    {
+    }
+    void pressed(MouseEvent &) { calls.push_back("press"); }
+    void moved(MouseEvent &) { calls.push_back("move"); }
+    void released(MouseEvent &) { calls.push_back("release"); }
+    void keyPressed(KeyEvent &) { calls.push_back("keyPress"); }
+    void keyReleased(KeyEvent &) { calls.push_back("keyRelease"); }
+    void menu(ContextMenuEvent &) { calls.push_back("menu"); }
+
+    // Feeds one event of each kind through a state.
+    void runAll(ToolState const &state)
+    {
+        MouseEvent p = press();
+        MouseEvent m(EventType::MouseMove, nullptr, {}, {6, 6}, {}, 0, Qt::NoButton, Qt::LeftButton, {});
+        MouseEvent r(EventType::MouseRelease, nullptr, {}, {6, 6}, {}, 0, Qt::LeftButton, Qt::NoButton, {});
+        KeyEvent kp = key(false);
+        KeyEvent kr(EventType::KeyRelease, nullptr, Qt::Key_A, {}, "a", false, {});
+        ContextMenuEvent c(EventType::ContextMenu);
+        state.handleMousePressEvent(p);
+        state.handleMouseMoveEvent(m);
+        state.handleMouseReleaseEvent(r);
+        state.handleKeyPressEvent(kp);
+        state.handleKeyReleaseEvent(kr);
+        state.handleContextMenuEvent(c);
+    }
+
+    State full;
+    State pressOnly;
+    std::vector<std::string> calls;
+};
+} // namespace
+
+TEST(ToolState, ARowIsPressMoveReleaseThenKeysAndMenu)
+{
+    GLOX::Holder<Machine> machine(new Machine);
+    machine->runAll(machine->full);
+    EXPECT_EQ(machine->calls,
+              (std::vector<std::string>{"press", "move", "release", "keyPress", "keyRelease", "menu"}));
+    EXPECT_EQ(&machine->full.tool(), machine.get());
+
+    machine->calls.clear();
+    machine->runAll(machine->pressOnly);
+    EXPECT_EQ(machine->calls, std::vector<std::string>{"press"}) << "empty entries ignore their events";
+
+    ToolState plain(*machine);
+    machine->calls.clear();
+    machine->runAll(plain);
+    EXPECT_TRUE(machine->calls.empty());
 }
 
 TEST(ToolStack, AToolThatFinishesLeavesAfterTheEvent)
