@@ -8,6 +8,11 @@ NodeEmitterTable &NodeEmitterTable::instance()
     return table;
 }
 
+GLUV::SendMode NodeEmitterTable::sendMode(MouseSignal which)
+{
+    return which == MouseMove ? GLUV::SendDirect : GLUV::SendBlocking;
+}
+
 template <typename E>
 E *NodeEmitterTable::lookup(Table<E> &table, NodeImpl const *node, bool create)
 {

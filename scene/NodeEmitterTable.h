@@ -4,6 +4,14 @@
 // emitters made on the first connect with send mode 2 (deliver at once on
 // the listener's own thread, queue across threads). Removing a node's
 // entries cuts every listener it had. Host thread only.
+//
+// Input events do not go out with the emitters' own mode but with the one
+// sendMode() names, as required of node signals: a press, a release and the
+// three hover events are sent with mode 3, so a listener of another thread
+// has handled the event (the same object, which it may consume) before the
+// node's handling goes on; a mouse move, keys and focus are sent with mode
+// 0, to every listener at once on the sending thread, whichever thread it
+// connected for. The text signals keep the emitters' mode.
 
 #include "GLOX/Containers.h"
 #include "GLUV/Emitter.h"
@@ -31,6 +39,11 @@ public:
     enum TextSignal { TextChanged, EditStarted, EditComplete, TextSignalCount };
 
     static NodeEmitterTable &instance();
+
+    // The mode the event signals are sent with. Any thread.
+    static GLUV::SendMode sendMode(MouseSignal which);
+    static GLUV::SendMode sendMode(KeySignal) { return GLUV::SendDirect; }
+    static GLUV::SendMode sendMode(FocusSignal) { return GLUV::SendDirect; }
 
     // The node's emitter of that signal; with `create` false, null when
     // nobody has connected to it.

@@ -41,6 +41,7 @@ class KeyEvent;
 class MouseEvent;
 class NodeUpdateHandler;
 class ScenePrivate;
+struct OffscreenLayout;
 
 // The count of a node: plain, not atomic. destroy() runs when it falls to 0.
 class ReferencedNodeImpl : public GLOX::ReferencedTemplate<unsigned int> {
@@ -214,7 +215,9 @@ private:
     void releaseTables();
     void onParentHasChanged();
     bool usesOffscreenImage() const;
-    void drawOffscreenImage(QRectF const &bounds, double lod);
+    // Paints the node into a new offscreen image for the current view.
+    void drawOffscreenImage(OffscreenLayout const &layout, double lod, QRectF const &bounds,
+                            QStyleOptionGraphicsItem const *option);
     NodeViewCache &currentViewCache();
     template <typename Compute>
     Bounds cachedInView(Bounds NodeViewCache::*field, Compute compute);

@@ -10,43 +10,38 @@
 namespace VOR2 {
 
 namespace {
-template <typename Emitter, typename E>
-void sendIfConnected(Emitter *emitter, E &event)
+// The node's emitter of that signal, or null when nobody ever connected.
+NodeEmitterTable::MouseEmitter *existing(NodeEmitterTable::MouseSignal which, NodeImpl const *node)
 {
-    if (emitter) emitter->send(event);
+    return NodeEmitterTable::instance().mouse(which, node, false);
+}
+NodeEmitterTable::KeyEmitter *existing(NodeEmitterTable::KeySignal which, NodeImpl const *node)
+{
+    return NodeEmitterTable::instance().key(which, node, false);
+}
+NodeEmitterTable::FocusEmitter *existing(NodeEmitterTable::FocusSignal which, NodeImpl const *node)
+{
+    return NodeEmitterTable::instance().focus(which, node, false);
 }
 
-void sendMouse(NodeEmitterTable::MouseSignal which, NodeImpl const *node, MouseEvent &event)
+// Sends on the node's emitter of that signal, if there is one, with the
+// mode the table names for the signal.
+template <typename Signal, typename E>
+void send(Signal which, NodeImpl const *node, E &event)
 {
-    sendIfConnected(NodeEmitterTable::instance().mouse(which, node, false), event);
+    if (auto *emitter = existing(which, node)) emitter->sendWith(NodeEmitterTable::sendMode(which), event);
 }
 } // namespace
 
-void NodeImpl::emitMousePressEvent(MouseEvent &e) { sendMouse(NodeEmitterTable::MousePress, this, e); }
-void NodeImpl::emitMouseMoveEvent(MouseEvent &e) { sendMouse(NodeEmitterTable::MouseMove, this, e); }
-void NodeImpl::emitMouseReleaseEvent(MouseEvent &e) { sendMouse(NodeEmitterTable::MouseRelease, this, e); }
-void NodeImpl::emitHoverEnterEvent(MouseEvent &e) { sendMouse(NodeEmitterTable::HoverEnter, this, e); }
-void NodeImpl::emitHoverExitEvent(MouseEvent &e) { sendMouse(NodeEmitterTable::HoverExit, this, e); }
-void NodeImpl::emitHoverMoveEvent(MouseEvent &e) { sendMouse(NodeEmitterTable::HoverMove, this, e); }
-
-void NodeImpl::emitKeyPressEvent(KeyEvent &e)
-{
-    sendIfConnected(NodeEmitterTable::instance().key(NodeEmitterTable::KeyPress, this, false), e);
-}
-
-void NodeImpl::emitKeyReleaseEvent(KeyEvent &e)
-{
-    sendIfConnected(NodeEmitterTable::instance().key(NodeEmitterTable::KeyRelease, this, false), e);
-}
-
-void NodeImpl::emitFocusOutEvent(FocusEvent &e)
-{
-    sendIfConnected(NodeEmitterTable::instance().focus(NodeEmitterTable::FocusOut, this, false), e);
-}
-
-void NodeImpl::emitFocusInEvent(FocusEvent &e)
-{
-    sendIfConnected(NodeEmitterTable::instance().focus(NodeEmitterTable::FocusIn, this, false), e);
-}
+void NodeImpl::emitMousePressEvent(MouseEvent &e) { send(NodeEmitterTable::MousePress, this, e); }
+void NodeImpl::emitMouseMoveEvent(MouseEvent &e) { send(NodeEmitterTable::MouseMove, this, e); }
+void NodeImpl::emitMouseReleaseEvent(MouseEvent &e) { send(NodeEmitterTable::MouseRelease, this, e); }
+void NodeImpl::emitHoverEnterEvent(MouseEvent &e) { send(NodeEmitterTable::HoverEnter, this, e); }
+void NodeImpl::emitHoverExitEvent(MouseEvent &e) { send(NodeEmitterTable::HoverExit, this, e); }
+void NodeImpl::emitHoverMoveEvent(MouseEvent &e) { send(NodeEmitterTable::HoverMove, this, e); }
+void NodeImpl::emitKeyPressEvent(KeyEvent &e) { send(NodeEmitterTable::KeyPress, this, e); }
+void NodeImpl::emitKeyReleaseEvent(KeyEvent &e) { send(NodeEmitterTable::KeyRelease, this, e); }
+void NodeImpl::emitFocusOutEvent(FocusEvent &e) { send(NodeEmitterTable::FocusOut, this, e); }
+void NodeImpl::emitFocusInEvent(FocusEvent &e) { send(NodeEmitterTable::FocusIn, this, e); }
 
 } // namespace VOR2

@@ -6,6 +6,7 @@
 #include "nodes/StylePainter.h"
 #include "scene/ImageExtent.h"
 #include "scene/NodeImpl.h"
+#include "scene/OffscreenLayout.h"
 
 #include <QPainter>
 #include <QStyleOptionGraphicsItem>
@@ -53,45 +54,52 @@ void NodeImpl::paintNode(QPainter *painter, QStyleOptionGraphicsItem const *opti
         return;
     }
     double lod = paintScale(painter);
-    double s = 1.0 / lod; // one device pixel in scene units
+    double s = 1.0 / lod; // one device pixel in item units
+    // The bounds at the scale the node is painted at: at any other the
+    // cached outline would be wrong for hit tests and shape as well.
     QRectF bounds = GLOX::toQRectF(getCachedMaximumBounds(lod).boundingRect()).normalized();
     // What can show: the exposed part as Qt tells it, cut to the painter's
-    // clip (a render of part of the scene clips to its target).
+    // clip (Qt exposes every item wholly in a render of part of the scene,
+    // and clips the painter to the part instead).
     QRectF visible = bounds.intersected(option->exposedRect);
     if (painter->hasClipping()) visible &= painter->clipBoundingRect();
-    // Only a whole exposure rebuilds the image: a partly exposed dirty node
+    OffscreenLayout const layout = OffscreenLayout::of(bounds, lod, *painter);
+    // An image that does not fit this painting (another scale, or another
+    // sub-pixel shift) is as good as none.
+    auto fitting = [&]() -> OffscreenPixmap const * {
+        OffscreenPixmap const *image = currentViewCache().offscreen.get();
+        return image && image->fits(layout.size, lod, layout.phase) ? image : nullptr;
+    };
+    // Only a whole exposure builds the image: a partly exposed dirty node
     // keeps the image it has, or paints directly.
-    // An image of another scale (a render at its own scale under this view's
-    // key) is as good as none; so is none at all for this view.
-    OffscreenPixmap const *current = currentViewCache().offscreen.get();
-    bool stale = m_offscreenDirty || !current || current->scale() != lod;
+    bool stale = m_offscreenDirty || !fitting();
     if (stale && bounds.width() - visible.width() < s && bounds.height() - visible.height() < s) {
         // Cleared first: a change reported while painting dirties it again.
         m_offscreenDirty = false;
-        drawOffscreenImage(bounds, lod);
+        drawOffscreenImage(layout, lod, bounds, option);
     }
-    NodeViewCache &entry = currentViewCache();
-    if (!entry.offscreen || entry.offscreen->scale() != lod) {
+    if (OffscreenPixmap const *image = fitting())
+        layout.draw(*painter, image->image());
+    else
         paintContents(painter, option, widget);
-        return;
-    }
-    QImage const &image = entry.offscreen->image();
-    painter->drawImage(QRectF(bounds.x() - s, bounds.y() - s, image.width() * s, image.height() * s), image);
 }
 
-void NodeImpl::drawOffscreenImage(QRectF const &bounds, double lod)
+void NodeImpl::drawOffscreenImage(OffscreenLayout const &layout, double lod, QRectF const &bounds,
+                                  QStyleOptionGraphicsItem const *option)
 {
     Diagnostics::add(OFFSCREEN_REPAINTS, 1);
-    QImage image = borderedImage(bounds, lod);
-    if (image.isNull()) return; // too large for an image: the node paints directly
+    if (layout.size.isEmpty()) return; // too large for an image: the node paints directly
+    QImage image(layout.size, QImage::Format_ARGB32_Premultiplied);
+    image.fill(0);
     {
         QPainter painter(&image);
-        setUpBorderedPainter(painter, bounds, lod, m_drawStyle.isAntiAliased());
-        QStyleOptionGraphicsItem option;
-        option.exposedRect = bounds;
-        paintContents(&painter, &option, nullptr);
+        painter.setRenderHint(QPainter::Antialiasing, m_drawStyle.isAntiAliased());
+        painter.setWorldTransform(layout.toImage);
+        QStyleOptionGraphicsItem imageOption(*option);
+        imageOption.exposedRect = bounds;
+        paintContents(&painter, &imageOption, nullptr);
     }
-    currentViewCache().offscreen = std::make_unique<OffscreenPixmap>(std::move(image), lod);
+    currentViewCache().offscreen = std::make_unique<OffscreenPixmap>(std::move(image), lod, layout.phase);
 }
 
 void NodeImpl::paintChildren(QPainter *painter, QStyleOptionGraphicsItem const *option, QWidget *widget)

@@ -25,15 +25,22 @@ void ToolStack::addTool(Tool *tool)
 
 void ToolStack::addTool(Tool *tool, GLOX::StringID const &role)
 {
-    if (!tool || hasTool(tool)) return;
+    if (!tool) return;
     GLOX::Holder<Tool> keep(tool);
-    Tool *previous = m_roles.value(role, nullptr);
-    int at = previous ? m_tools.indexOf(GLOX::Holder<Tool>(previous)) : -1;
+    bool const joins = !hasTool(tool);
+    GLOX::Holder<Tool> previous(getToolByRole(role));
+    int at = previous ? m_tools.indexOf(previous) : -1;
     if (at >= 0)
         m_tools[at] = keep; // in the old tool's place; it goes without a word
     else
         m_tools.prepend(keep);
-    m_roles.insert(role, tool);
+    // A tool is offered each event once: it keeps its topmost place only.
+    int const top = m_tools.indexOf(keep);
+    for (int i = m_tools.size() - 1; i > top; --i)
+        if (m_tools[i] == keep) m_tools.removeAt(i);
+    if (previous && previous != keep) forgetRoles(previous.get());
+    if (previous != keep) m_roles.insert(role, RoleEntry{tool, ++m_roleSerial});
+    if (!joins) return; // one more role: the tool was told when it joined
     tool->toolAdded.send();
     tool->onAddToStack();
 }
@@ -76,17 +83,34 @@ bool ToolStack::removeTool(Tool *tool)
 
 bool ToolStack::removeToolByRole(GLOX::StringID const &role)
 {
-    Tool *tool = m_roles.value(role, nullptr);
+    Tool *tool = getToolByRole(role);
     return tool && removeTool(tool);
 }
 
-Tool *ToolStack::getToolByRole(GLOX::StringID const &role) const { return m_roles.value(role, nullptr); }
+Tool *ToolStack::getToolByRole(GLOX::StringID const &role) const
+{
+    RoleEntry const *entry = findRole(role);
+    return entry ? entry->tool : nullptr;
+}
 
 GLOX::StringID ToolStack::getRoleByTool(Tool *tool)
 {
-    for (auto it = m_roles.cbegin(); it != m_roles.cend(); ++it)
-        if (it.value() == tool) return it.key();
-    return GLOX::StringID();
+    GLOX::StringID first;
+    std::uint64_t firstSerial = 0;
+    for (auto it = m_roles.cbegin(); it != m_roles.cend(); ++it) {
+        if (it.value().tool != tool) continue;
+        if (firstSerial == 0 || it.value().serial < firstSerial) {
+            first = it.key();
+            firstSerial = it.value().serial;
+        }
+    }
+    return first;
+}
+
+ToolStack::RoleEntry const *ToolStack::findRole(GLOX::StringID const &role) const
+{
+    auto it = m_roles.constFind(role);
+    return it == m_roles.cend() ? nullptr : &it.value();
 }
 
 void ToolStack::clearToolStack()
@@ -113,7 +137,7 @@ void ToolStack::retire(Tool *tool)
 void ToolStack::forgetRoles(Tool *tool)
 {
     for (auto it = m_roles.begin(); it != m_roles.end();) {
-        if (it.value() == tool)
+        if (it.value().tool == tool)
             it = m_roles.erase(it);
         else
             ++it;

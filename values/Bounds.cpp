@@ -44,58 +44,55 @@ bool unionIsRect(GLRect<double> a, GLRect<double> b, GLRect<double> *out)
 
 Bounds::Bounds(GLOX::Shape const &shape)
 {
-    setPath(shape.getPath());
+    setShape(shape.getPath());
 }
 
 Bounds::Bounds(QPainterPath const &path)
 {
-    setPath(path);
+    setShape(path);
 }
 
 Bounds::Bounds(RoundedRect const &roundedRect)
 {
     GLRect<double> const &r = roundedRect.rect();
-    if (!(roundedRect.roundedX() > 0) || !(roundedRect.roundedY() > 0) || r.isEmpty()) {
-        m_rect = r;
+    if (r.isEmpty()) {
+        setShape(QPainterPath(), r);
+        return;
+    }
+    double const rx = roundedRect.roundedX(), ry = roundedRect.roundedY();
+    if (!(rx > 0) || !(ry > 0)) { // square corners; also keeps a NaN radius out of the path
+        setShape(rectPath(r), r);
         return;
     }
     QPainterPath p;
-    p.addRoundedRect(GLOX::toQRectF(r), roundedRect.roundedX(), roundedRect.roundedY(), Qt::AbsoluteSize);
-    setPath(p);
+    p.addRoundedRect(GLOX::toQRectF(r), rx, ry, Qt::AbsoluteSize);
+    setShape(p, r);
 }
 
 Bounds::Bounds(Ellipse const &ellipse)
 {
-    if (ellipse.rect().isEmpty()) {
-        m_rect = ellipse.rect();
-        return;
-    }
+    GLRect<double> const &r = ellipse.rect();
     QPainterPath p;
-    p.addEllipse(GLOX::toQRectF(ellipse.rect()));
-    setPath(p);
+    if (!r.isEmpty()) p.addEllipse(GLOX::toQRectF(r));
+    setShape(p, r);
 }
 
 Bounds::Bounds(GLOX::GList<GLRect<double>> const &rects)
 {
-    GLRect<double> acc;
-    bool oneRect = true;
-    for (GLRect<double> const &r : rects) {
-        if (!unionIsRect(acc, r, &acc)) {
-            oneRect = false;
-            break;
-        }
-    }
-    if (oneRect) {
-        m_rect = acc;
-        return;
-    }
-    // Overlaps count once under the winding rule; simplified() merges the
-    // pieces into outlines without crossings.
+    // Every rectangle is its own closed subpath, all turning the same way:
+    // under the winding rule an overlap counts once. Rectangles without area
+    // (or with a negative side, which would turn the other way and cut a
+    // hole) add nothing. One rectangle keeps the default rule, so that it
+    // compares equal to the same rectangle bare.
     QPainterPath p;
-    p.setFillRule(Qt::WindingFill);
-    for (GLRect<double> const &r : rects)
-        if (!r.isEmpty()) p.addRect(GLOX::toQRectF(r));
-    setPath(p.simplified());
+    int pieces = 0;
+    for (GLRect<double> const &r : rects) {
+        if (r.isEmpty()) continue;
+        p.addRect(GLOX::toQRectF(r));
+        ++pieces;
+    }
+    if (pieces > 1) p.setFillRule(Qt::WindingFill);
+    setShape(p);
 }
 
 Bounds::Bounds(GLOX::GList<GLPoint<double>> const &polygon)
@@ -106,13 +103,25 @@ Bounds::Bounds(GLOX::GList<GLPoint<double>> const &polygon)
     QPainterPath path;
     path.addPolygon(poly);
     path.closeSubpath();
-    setPath(path);
+    setShape(path);
 }
 
 Bounds::Bounds(GLPoint<double> const &p1, GLPoint<double> const &p2, GLPoint<double> const &p3,
                GLPoint<double> const &p4)
     : Bounds(GLOX::GList<GLPoint<double>>{p1, p2, p3, p4})
 {
+}
+
+void Bounds::setShape(QPainterPath const &path)
+{
+    m_impl = PainterPathBoundsImpl::make(path);
+    m_rect = m_impl->boundingRect();
+}
+
+void Bounds::setShape(QPainterPath const &path, GLRect<double> const &rect)
+{
+    m_impl = PainterPathBoundsImpl::make(path);
+    m_rect = rect;
 }
 
 void Bounds::setPath(QPainterPath const &path)
@@ -190,7 +199,8 @@ GLOX::Shape Bounds::asShape() const
 
 bool Bounds::operator==(Bounds const &o) const
 {
-    if (!m_impl && !o.m_impl) return m_rect == o.m_rect;
+    if (!(m_rect == o.m_rect)) return false;
+    if (!m_impl && !o.m_impl) return true;
     if (m_impl && o.m_impl) return m_impl == o.m_impl || m_impl->isEqual(*o.m_impl);
     if (m_impl) return m_impl->isEqual(o.m_rect);
     return o.m_impl->isEqual(m_rect);

@@ -130,7 +130,9 @@ TEST(RectNode, PaintsItsFillAndAOnePixelHairlineAtEveryScale)
 TEST(RoundedRectNode, RadiusGuardAndCachedOutline)
 {
     RoundedRectNode n(R(0, 0, 10, 10), 0.0);
-    EXPECT_TRUE(n.getBounds().isOnlyRect()) << "no radius: a plain rectangle";
+    EXPECT_FALSE(n.getBounds().isOnlyRect()) << "no radius: still the shape of its kind";
+    EXPECT_TRUE(n.getBounds().contains(P(0.5, 0.5))) << "no radius: square corners";
+    EXPECT_EQ(n.getBounds(), Bounds(R(0, 0, 10, 10)));
     n.setRadius(4.0);
     EXPECT_FALSE(n.getBounds().contains(P(0.5, 0.5))) << "corner cut away";
     n.setRect(R(20, 0, 10, 10));

@@ -5,7 +5,6 @@
 #include <GLCanvas>
 #include <RectNode>
 #include <Scene>
-#include <ToolState>
 
 #include "support/RecordingTool.h"
 #include "widget/EventDispatcher.h"
@@ -140,33 +139,4 @@ TEST(EventDispatcher, AToolMayEndTheSceneItIsHandlingAnEventOf)
     canvas.getEmitters().mousePressed.send(GLOX::GLMouseEvent2(&canvas, {}, {1, 1}, {}, 0, Qt::LeftButton,
                                                                Qt::LeftButton, {}));
     EXPECT_EQ(canvas.getScene(), nullptr);
-}
-
-namespace {
-struct Machine : RecordingTool {
-    Machine() : RecordingTool("machine"), idle(*this, idleRow()), current(&idle) {}
-    static CallbackToolState<Machine>::Row idleRow()
-    {
-        CallbackToolState<Machine>::Row row;
-        row.mousePress = &Machine::pressed;
-        return row;
-    }
-    void pressed(MouseEvent &) { ++presses; }
-    void handleMousePressEvent(MouseEvent &e) override { current->handleMousePressEvent(e); }
-    void handleMouseReleaseEvent(MouseEvent &e) override { current->handleMouseReleaseEvent(e); }
-    CallbackToolState<Machine> idle;
-    ToolState const *current;
-    int presses = 0;
-};
-} // namespace
-
-TEST(ToolState, ACallbackStateCallsItsRowAndIgnoresTheRest)
-{
-    GLOX::Holder<Machine> machine(new Machine);
-    MouseEvent press = mouseAt(EventType::MousePress, nullptr, {});
-    MouseEvent release = mouseAt(EventType::MouseRelease, nullptr, {});
-    press.accept(*machine);
-    release.accept(*machine);
-    EXPECT_EQ(machine->presses, 1);
-    EXPECT_EQ(&machine->idle.tool(), machine.get());
 }

@@ -5,6 +5,7 @@
 #include <Scene>
 #include <ToolFactory>
 #include <ToolStack>
+#include <ToolState>
 
 #include "GLUV/Listener.h"
 #include "scene/ScenePrivate.h"
@@ -100,6 +101,148 @@ TEST(ToolStack, RolesAreUniqueAndReplaceInPlace)
     EXPECT_EQ(b->removed, 1);
     EXPECT_EQ(s.stack.getToolByRole("zoom"), nullptr);
     EXPECT_FALSE(s.stack.removeTool(b.get())) << "already gone";
+}
+
+TEST(ToolStack, AToolOnTheStackTakesASecondRoleAndGoesToTheTop)
+{
+    Stack s;
+    auto a = s.add("a");
+    auto b = s.add("b");
+    auto c = s.add("c");
+    s.stack.addTool(a.get(), "alias");
+    EXPECT_EQ(s.names(), (std::vector<std::string>{"a", "c", "b"})) << "on top, and only there";
+    EXPECT_EQ(s.stack.getToolByRole("alias"), a.get());
+    EXPECT_EQ(s.stack.getToolByRole("a"), a.get());
+    EXPECT_EQ(s.stack.getRoleByTool(a.get()), GLOX::StringID("a")) << "the role it was given first";
+    EXPECT_EQ(a->added, 1) << "told once that it joined";
+
+    MouseEvent e = press();
+    s.stack.handleMousePressEvent(e);
+    EXPECT_EQ(s.offered(), (std::vector<std::string>{"a", "c", "b"})) << "each tool sees an event once";
+
+    // Giving it a role it has already changes nothing.
+    s.stack.addTool(a.get(), "a");
+    EXPECT_EQ(s.names(), (std::vector<std::string>{"a", "c", "b"}));
+    EXPECT_EQ(s.stack.getRoleByTool(a.get()), GLOX::StringID("a"));
+
+    // Either role takes the tool off the stack, with both its roles.
+    EXPECT_TRUE(s.stack.removeToolByRole("alias"));
+    EXPECT_EQ(a->removed, 1);
+    EXPECT_EQ(s.names(), (std::vector<std::string>{"c", "b"}));
+    EXPECT_EQ(s.stack.getToolByRole("a"), nullptr);
+    EXPECT_EQ(s.stack.getRoleByTool(a.get()), GLOX::StringID());
+    EXPECT_FALSE(s.stack.removeToolByRole("a"));
+}
+
+TEST(ToolStack, TheFirstRoleStillHeldIsTheOneReported)
+{
+    // Many roles, so that the answer cannot come from the order of a hash.
+    Stack s;
+    auto tool = s.add("t");
+    std::vector<std::string> roles;
+    for (int i = 0; i < 40; ++i) roles.push_back("role" + std::to_string((i * 17) % 40));
+    for (std::string const &role : roles) s.stack.addTool(tool.get(), GLOX::StringID(role));
+    EXPECT_EQ(s.stack.getRoleByTool(tool.get()), GLOX::StringID("t"));
+    EXPECT_TRUE(s.stack.removeTool(tool.get()));
+    EXPECT_FALSE(s.stack.hasTool(tool.get()));
+    for (std::string const &role : roles) EXPECT_EQ(s.stack.getToolByRole(GLOX::StringID(role)), nullptr) << role;
+
+    s.stack.addTool(tool.get(), GLOX::StringID(roles[7]));
+    for (std::string const &role : roles) s.stack.addTool(tool.get(), GLOX::StringID(role));
+    EXPECT_EQ(s.stack.getRoleByTool(tool.get()), GLOX::StringID(roles[7])) << "back with new roles";
+    EXPECT_EQ(tool->added, 2);
+}
+
+TEST(ToolStack, ASecondRoleHeldByAnotherToolTakesThatToolsPlace)
+{
+    Stack s;
+    auto bottom = s.add("bottom");
+    auto middle = s.add("middle");
+    auto top = s.add("top");
+    s.stack.addTool(middle.get(), "extra");
+    ASSERT_EQ(s.names(), (std::vector<std::string>{"middle", "top", "bottom"}));
+
+    // From below: the tool moves up into the place of the role's tool,
+    // which leaves the stack and is not told.
+    s.stack.addTool(bottom.get(), "top");
+    EXPECT_EQ(s.names(), (std::vector<std::string>{"middle", "bottom"}));
+    EXPECT_FALSE(s.stack.hasTool(top.get()));
+    EXPECT_EQ(top->removed, 0);
+    EXPECT_EQ(top->refCount(), 1u) << "the stack let go of it";
+    EXPECT_EQ(s.stack.getToolByRole("top"), bottom.get());
+    EXPECT_EQ(s.stack.getRoleByTool(bottom.get()), GLOX::StringID("bottom"));
+
+    // From above: the tool stays where it is, and the other one is gone
+    // with all of its roles.
+    s.stack.addTool(middle.get(), "top");
+    EXPECT_EQ(s.names(), std::vector<std::string>{"middle"});
+    EXPECT_EQ(s.stack.getToolByRole("bottom"), nullptr) << "no role points at a tool off the stack";
+    EXPECT_EQ(s.stack.getToolByRole("top"), middle.get());
+    EXPECT_EQ(s.stack.getToolByRole("extra"), middle.get());
+    EXPECT_EQ(s.stack.getRoleByTool(middle.get()), GLOX::StringID("middle"));
+    EXPECT_EQ(bottom->refCount(), 1u);
+    EXPECT_EQ(middle->added, 1);
+    EXPECT_EQ(bottom->removed, 0);
+}
+
+namespace {
+// A tool whose state table row names a different member for each event,
+// so that a row read in the wrong order shows.
+struct Machine : RecordingTool {
+    using State = CallbackToolState<Machine>;
+    Machine()
+        : RecordingTool("machine"),
+          full(*this, State::Row{&Machine::pressed, &Machine::moved, &Machine::released, &Machine::keyPressed,
+                                 &Machine::keyReleased, &Machine::menu}),
+          pressOnly(*this, State::Row{&Machine::pressed})
+    {
+    }
+    void pressed(MouseEvent &) { calls.push_back("press"); }
+    void moved(MouseEvent &) { calls.push_back("move"); }
+    void released(MouseEvent &) { calls.push_back("release"); }
+    void keyPressed(KeyEvent &) { calls.push_back("keyPress"); }
+    void keyReleased(KeyEvent &) { calls.push_back("keyRelease"); }
+    void menu(ContextMenuEvent &) { calls.push_back("menu"); }
+
+    // Feeds one event of each kind through a state.
+    void runAll(ToolState const &state)
+    {
+        MouseEvent p = press();
+        MouseEvent m(EventType::MouseMove, nullptr, {}, {6, 6}, {}, 0, Qt::NoButton, Qt::LeftButton, {});
+        MouseEvent r(EventType::MouseRelease, nullptr, {}, {6, 6}, {}, 0, Qt::LeftButton, Qt::NoButton, {});
+        KeyEvent kp = key(false);
+        KeyEvent kr(EventType::KeyRelease, nullptr, Qt::Key_A, {}, "a", false, {});
+        ContextMenuEvent c(EventType::ContextMenu);
+        state.handleMousePressEvent(p);
+        state.handleMouseMoveEvent(m);
+        state.handleMouseReleaseEvent(r);
+        state.handleKeyPressEvent(kp);
+        state.handleKeyReleaseEvent(kr);
+        state.handleContextMenuEvent(c);
+    }
+
+    State full;
+    State pressOnly;
+    std::vector<std::string> calls;
+};
+} // namespace
+
+TEST(ToolState, ARowIsPressMoveReleaseThenKeysAndMenu)
+{
+    GLOX::Holder<Machine> machine(new Machine);
+    machine->runAll(machine->full);
+    EXPECT_EQ(machine->calls,
+              (std::vector<std::string>{"press", "move", "release", "keyPress", "keyRelease", "menu"}));
+    EXPECT_EQ(&machine->full.tool(), machine.get());
+
+    machine->calls.clear();
+    machine->runAll(machine->pressOnly);
+    EXPECT_EQ(machine->calls, std::vector<std::string>{"press"}) << "empty entries ignore their events";
+
+    ToolState plain(*machine);
+    machine->calls.clear();
+    machine->runAll(plain);
+    EXPECT_TRUE(machine->calls.empty());
 }
 
 TEST(ToolStack, AToolThatFinishesLeavesAfterTheEvent)

@@ -44,10 +44,52 @@ TEST(BoundsConstruction, RectanglesStayBareAndShapesAllocate)
     Bounds rounded(RoundedRect(Rect(0, 0, 10, 10), 3, 3));
     EXPECT_FALSE(rounded.isOnlyRect());
     EXPECT_TRUE(splits(rounded, {{5, 0.2}}, {{0.2, 0.2}}));
-    EXPECT_TRUE(Bounds(RoundedRect(Rect(0, 0, 10, 10), 0, 3)).isOnlyRect());
+}
 
-    EXPECT_TRUE(Bounds(QPainterPath()).isOnlyRect());
-    EXPECT_TRUE(Bounds(GLOX::Shape()).isEmpty());
+TEST(BoundsConstruction, ShapeConstructorsGiveAShapeEvenWhenItIsARectangleOrNothing)
+{
+    // Square corners: a rectangular path, still a shape, equal to the bare
+    // rectangle.
+    for (RoundedRect const &square : {RoundedRect(Rect(0, 0, 10, 10), 0, 3), RoundedRect(Rect(0, 0, 10, 10), 3, 0),
+                                      RoundedRect(Rect(0, 0, 10, 10), -1, std::nan(""))}) {
+        Bounds b(square);
+        EXPECT_FALSE(b.isOnlyRect());
+        EXPECT_FALSE(b.isEmpty());
+        EXPECT_EQ(b.boundingRect(), Rect(0, 0, 10, 10));
+        EXPECT_EQ(b.boundingRects(), GLOX::GList<Rect>{Rect(0, 0, 10, 10)});
+        EXPECT_TRUE(splits(b, {{0.2, 0.2}, {9.8, 9.8}}, {{10.2, 5}}));
+        EXPECT_EQ(b, Bounds(Rect(0, 0, 10, 10)));
+    }
+
+    // Nothing inside, but a shape, keeping the rectangle it was given.
+    struct Case {
+        char const *what;
+        Bounds b;
+        Rect rect;
+    } const empties[] = {
+        {"ellipse of no size", Bounds(Ellipse(Rect(5, 6, 0, 0))), Rect(5, 6, 0, 0)},
+        {"flat ellipse", Bounds(Ellipse(Rect(5, 6, 0, 4))), Rect(5, 6, 0, 4)},
+        {"inside-out ellipse", Bounds(Ellipse(Rect(5, 6, -4, 4))), Rect(5, 6, -4, 4)},
+        {"default ellipse", Bounds(Ellipse()), Rect()},
+        {"flat rounded rectangle", Bounds(RoundedRect(Rect(1, 2, 10, 0), 2, 2)), Rect(1, 2, 10, 0)},
+        {"empty path", Bounds(QPainterPath()), Rect()},
+        {"empty shape", Bounds(GLOX::Shape()), Rect()},
+        {"no rectangles", Bounds(GLOX::GList<Rect>()), Rect()},
+        {"only empty rectangles", Bounds(GLOX::GList<Rect>{{0, 0, 0, 5}, {0, 0, -3, 5}}), Rect()},
+        {"no points", Bounds(GLOX::GList<Pt>()), Rect()},
+    };
+    for (Case const &c : empties) {
+        EXPECT_FALSE(c.b.isOnlyRect()) << c.what;
+        EXPECT_TRUE(c.b.isEmpty()) << c.what;
+        EXPECT_EQ(c.b.boundingRect(), c.rect) << c.what;
+        EXPECT_TRUE(c.b.boundingRects().isEmpty()) << c.what;
+        EXPECT_FALSE(c.b.contains(Pt(5, 7))) << c.what;
+        EXPECT_FALSE(c.b.intersectsWith(Bounds(Rect(-100, -100, 200, 200)))) << c.what;
+        // It adds nothing to a union and takes all from an intersection.
+        EXPECT_EQ(Bounds(Rect(0, 0, 3, 3)) | c.b, Bounds(Rect(0, 0, 3, 3))) << c.what;
+        EXPECT_TRUE((Bounds(Rect(0, 0, 30, 30)) & c.b).isEmpty()) << c.what;
+    }
+    EXPECT_NE(Bounds(Ellipse(Rect(5, 6, 0, 0))), Bounds(Ellipse(Rect(7, 6, 0, 0)))) << "rectangles differ";
 }
 
 TEST(BoundsConstruction, PolygonsAndRectangleLists)
@@ -57,17 +99,33 @@ TEST(BoundsConstruction, PolygonsAndRectangleLists)
     EXPECT_TRUE(splits(triangle, {{2, 2}}, {{8, 8}}));
     EXPECT_TRUE(splits(Bounds(Pt(5, 0), Pt(10, 5), Pt(5, 10), Pt(0, 5)), {{5, 5}}, {{1, 1}}));
 
-    // Rectangles that add up to one rectangle stay bare.
+    // Rectangles that add up to one rectangle are still a path of all of
+    // them; its pieces are the rectangles, less those inside another.
     Bounds strips(GLOX::GList<Rect>{{0, 0, 10, 5}, {0, 5, 10, 5}, {2, 2, 3, 3}, {0, 0, 0, 0}});
-    EXPECT_TRUE(strips.isOnlyRect());
+    EXPECT_FALSE(strips.isOnlyRect());
     EXPECT_EQ(strips.boundingRect(), Rect(0, 0, 10, 10));
+    EXPECT_EQ(strips.boundingRects(), (GLOX::GList<Rect>{{0, 0, 10, 5}, {0, 5, 10, 5}}));
+    EXPECT_TRUE(splits(strips, {{5, 2}, {5, 7}, {3, 3}}, {{11, 5}}));
+    Bounds one(GLOX::GList<Rect>{{1, 2, 3, 4}});
+    EXPECT_FALSE(one.isOnlyRect());
+    EXPECT_EQ(one, Bounds(Rect(1, 2, 3, 4)));
 
     // An L of overlapping rectangles: the overlap is inside, the notch is not.
     Bounds ell(GLOX::GList<Rect>{{0, 0, 10, 4}, {0, 0, 4, 10}});
     EXPECT_FALSE(ell.isOnlyRect());
     EXPECT_EQ(ell.boundingRect(), Rect(0, 0, 10, 10));
     EXPECT_TRUE(splits(ell, {{2, 2}, {8, 2}, {2, 8}}, {{8, 8}}));
-    EXPECT_TRUE(Bounds(GLOX::GList<Rect>()).isEmpty());
+    EXPECT_EQ(ell.boundingRects(), (GLOX::GList<Rect>{{0, 0, 10, 4}, {0, 0, 4, 10}}));
+
+    // Polygons are shapes even when they are rectangles.
+    Bounds box(Pt(0, 0), Pt(4, 0), Pt(4, 3), Pt(0, 3));
+    EXPECT_FALSE(box.isOnlyRect());
+    EXPECT_EQ(box.boundingRects(), GLOX::GList<Rect>{Rect(0, 0, 4, 3)});
+    EXPECT_FALSE(Bounds(GLOX::GList<Pt>{{0, 0}, {4, 0}, {4, 3}, {0, 3}}).isOnlyRect());
+    QPainterPath square;
+    square.addRect(0, 0, 4, 3);
+    EXPECT_FALSE(Bounds(square).isOnlyRect());
+    EXPECT_FALSE(Bounds(GLOX::Shape(square)).isOnlyRect());
 }
 
 TEST(BoundsRects, PointTestsCountEdgesAndTolerance)
