@@ -60,6 +60,20 @@ protected:
         return view;
     }
 
+    // A second canvas's stack and server, showing the same scene.
+    struct OtherView {
+        LayerStack stack;
+        SceneServer server;
+        OtherView(Scene *scene, ViewRequest const &view)
+        {
+            stack.insertLayer(0, GLOX::Holder<Layer>(new Layer(scene, LayerStack::baseLayerId())));
+            server.setLayerStack(&stack);
+            server.setPendingViewRequest(view);
+            server.processPendingViewRequest();
+        }
+        ~OtherView() { server.setLayerStack(nullptr); }
+    };
+
     GLOX::Holder<Scene> scene;
     LayerStack stack;
     SceneServer server;
@@ -171,13 +185,9 @@ TEST_F(SceneServerTest, ALayerAddedBeforeTheViewSizeIsKnownIsOnePixel)
 TEST_F(SceneServerTest, AChangedBackgroundReachesEveryViewAtOnce)
 {
     scene->addNode(solidRect({0, 0, 20, 20}, Qt::red));
-    LayerStack otherStack;
-    otherStack.insertLayer(0, GLOX::Holder<Layer>(new Layer(scene.get(), LayerStack::baseLayerId())));
-    SceneServer other;
-    other.setLayerStack(&otherStack);
     show(1, 0, 0);
-    other.setPendingViewRequest({1, 0, 0, 60, 60});
-    other.processPendingViewRequest();
+    OtherView otherView(scene.get(), {1, 0, 0, 60, 60});
+    SceneServer &other = otherView.server;
     takeDirty();
     {
         Rendering::Locker lock(other.rendering());
@@ -197,7 +207,6 @@ TEST_F(SceneServerTest, AChangedBackgroundReachesEveryViewAtOnce)
     takeDirty();
     scene->setBackground(Background(GLOX::Color(0.0, 1.0, 0.0)));
     EXPECT_TRUE(takeDirty().isEmpty()) << "an equal background repaints nothing";
-    other.setLayerStack(nullptr);
 }
 
 TEST_F(SceneServerTest, ABackgroundImageIsPlacedOverTheViewport)
@@ -246,13 +255,9 @@ TEST_F(SceneServerTest, EveryViewOfASceneSeesEveryChange)
 {
     RectNode moving = solidRect({10, 10, 10, 10}, Qt::red);
     scene->addNode(moving);
-    LayerStack otherStack;
-    otherStack.insertLayer(0, GLOX::Holder<Layer>(new Layer(scene.get(), LayerStack::baseLayerId())));
-    SceneServer other;
-    other.setLayerStack(&otherStack);
     show(1, 0, 0);
-    other.setPendingViewRequest({2, 0, 0, 100, 100});
-    other.processPendingViewRequest();
+    OtherView otherView(scene.get(), {2, 0, 0, 100, 100});
+    SceneServer &other = otherView.server;
     settle();
 
     moving.setPosition({20, 0}); // now over 30 to 40
@@ -263,7 +268,6 @@ TEST_F(SceneServerTest, EveryViewOfASceneSeesEveryChange)
         EXPECT_TRUE(pixelIs(image, int(35 * s), int(15 * s), Qt::red)) << "drawn where it went, at scale " << s;
         EXPECT_TRUE(pixelIs(image, int(15 * s), int(15 * s), Qt::transparent)) << "erased where it was, at scale " << s;
     }
-    other.setLayerStack(nullptr);
 }
 
 TEST_F(SceneServerTest, ANodeBeyondUsableNumbersDirtiesTheWholeViewNotNothing)
