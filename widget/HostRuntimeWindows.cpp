@@ -60,7 +60,10 @@ bool HostRuntime::showWindow(GLCanvas &canvas, int width, int height, std::strin
             window->resize(width, height);
             window->setWindowTitle(QString::fromStdString(title));
         }
-        auto *watcher = window->findChild<WindowWatcher *>(QString(), Qt::FindDirectChildrenOnly);
+        // Not findChild: the watcher has no meta-object of its own.
+        WindowWatcher *watcher = nullptr;
+        for (QObject *child : window->children())
+            if ((watcher = dynamic_cast<WindowWatcher *>(child))) break;
         if (!watcher) watcher = new WindowWatcher(window);
         watcher->countIn();
         window->show();
