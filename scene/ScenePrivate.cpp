@@ -135,7 +135,9 @@ void ScenePrivate::scheduleViewUpdate()
 void ScenePrivate::deliverChanges()
 {
     m_delivered = std::move(m_pendingChanges); // changes the views make now open a new batch
+    m_delivering = true;
     QMetaObject::invokeMethod(this, "_q_emitUpdated", Qt::DirectConnection);
+    m_delivering = false;
     m_delivered.clear();
 }
 

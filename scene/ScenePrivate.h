@@ -80,6 +80,7 @@ public:
     // for every view to read. Empty at any other time, and in emissions of
     // changed() that Qt makes on its own.
     PendingChanges const &changesBeingDelivered() const { return m_delivered; }
+    bool isDeliveringChanges() const { return m_delivering; }
     // Queues one delivery unless a batch is already open.
     void scheduleViewUpdate();
     void invalidateSceneBounds();
@@ -194,6 +195,7 @@ private:
     ToolFactory m_toolFactory;
     PendingChanges m_pendingChanges;
     PendingChanges m_delivered;
+    bool m_delivering = false;
     bool m_debugRepaintRegion = false;
     GLOX::Color m_debugRepaintRegionColor{0.0, 1.0, 0.0, 0.5};
     bool m_trackingPerformance = false;

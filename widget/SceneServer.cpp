@@ -12,6 +12,7 @@
 #include "widget/ViewGeometry.h"
 
 #include <QPainter>
+#include <cmath>
 #include <QtGlobal>
 
 namespace VOR2 {
@@ -19,6 +20,17 @@ namespace VOR2 {
 namespace {
 constexpr double DEFAULT_MARGIN = 20.0;
 constexpr double DIRTY_BORDER_PIXELS = 3.0;
+
+// What a changed area dirties: itself when its numbers are usable. Nested
+// transforms can carry a node beyond them, to infinities: such a node may
+// cover anything, so it dirties everything there is. An area with NaN in
+// it says nothing and dirties nothing.
+QRectF dirtyArea(QRectF const &r)
+{
+    if (isUsable(r) || r.isEmpty()) return r;
+    if (std::isnan(r.x()) || std::isnan(r.y()) || std::isnan(r.width()) || std::isnan(r.height())) return QRectF();
+    return QRectF(-COORDINATE_LIMIT, -COORDINATE_LIMIT, 2 * COORDINATE_LIMIT, 2 * COORDINATE_LIMIT);
+}
 } // namespace
 
 SceneServer::SceneServer() { setMargins(GLOX::GLRect<double>(DEFAULT_MARGIN, DEFAULT_MARGIN, DEFAULT_MARGIN, DEFAULT_MARGIN)); }
@@ -109,11 +121,7 @@ void SceneServer::repaintAll(ScenePrivate *scene)
 QRectF SceneServer::drawnBounds(NodeImpl *node, double scale) const
 {
     QRectF local = GLOX::toQRectF(node->getCachedMaximumBounds(scale).boundingRect());
-    QRectF drawn = node->getGraphicsItem()->sceneTransform().mapRect(local);
-    if (isUsable(drawn) || drawn.isEmpty()) return drawn;
-    // Nested transforms can carry a node beyond the numbers a rectangle
-    // keeps: it may cover anything, so it dirties everything there is.
-    return QRectF(-COORDINATE_LIMIT, -COORDINATE_LIMIT, 2 * COORDINATE_LIMIT, 2 * COORDINATE_LIMIT);
+    return dirtyArea(node->getGraphicsItem()->sceneTransform().mapRect(local));
 }
 
 QRectF SceneServer::takeNodeDirtyRect(ScenePrivate *scene, double scale)
@@ -166,7 +174,7 @@ void SceneServer::renderLayer(ScenePrivate *scene, QRectF const &givenDirty)
     view.sceneRect = GLOX::toDRect(sceneRectOfAllLayers());
     ViewInfo &last = m_renderedViews[size_t(index)];
     QRectF sceneBounds = GLOX::toQRectF(scene->getVisibleItemsRect());
-    QRectF d = takeNodeDirtyRect(scene, scale) | givenDirty;
+    QRectF d = takeNodeDirtyRect(scene, scale) | givenDirty | m_deferredDirty.take(scene);
     QRectF visible = GLOX::toQRectF(view::visibleSceneRect(view));
     d = m_fullRedraw ? visible : (d & visible);
     if (last.scale == scale && !m_fullRedraw) {
@@ -206,8 +214,17 @@ void SceneServer::publishBackground(RenderedLayer &layer, Background const &back
 void SceneServer::sceneChanged(QList<QRectF> const &rects)
 {
     QRectF united;
-    for (QRectF const &r : rects) united |= r;
-    if (auto *scene = dynamic_cast<ScenePrivate *>(sender())) renderLayer(scene, united);
+    for (QRectF const &r : rects) united |= dirtyArea(r);
+    auto *scene = dynamic_cast<ScenePrivate *>(sender());
+    if (!scene) return;
+    // Qt announces its items' updates on its own too, often just before the
+    // scene delivers the same changes: keep its area for that delivery
+    // rather than draw it twice.
+    if (!scene->isDeliveringChanges() && !scene->getPendingChanges().isEmpty()) {
+        m_deferredDirty[scene] |= united;
+        return;
+    }
+    renderLayer(scene, united);
 }
 
 // ------------------------------------------------------------------ layers
@@ -247,6 +264,7 @@ void SceneServer::disconnectScene(ScenePrivate *scene)
     scene->backgroundChanged.disconnect(this);
     QObject::disconnect(scene, &QGraphicsScene::changed, this, &SceneServer::sceneChanged);
     m_paintedBounds.remove(scene);
+    m_deferredDirty.remove(scene);
 }
 
 void SceneServer::layerAdded(int index)

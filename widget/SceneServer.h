@@ -100,6 +100,9 @@ private:
     // What each node covered when last drawn, in scene coordinates, per
     // scene. Keys of removed nodes are never dereferenced.
     GLOX::GHash<ScenePrivate const *, PaintedBounds> m_paintedBounds;
+    // Areas Qt announced while a delivery of the scene's changes was on its
+    // way, drawn with that delivery (or any render before it).
+    GLOX::GHash<ScenePrivate const *, QRectF> m_deferredDirty;
     Rendering m_rendering;
     mutable std::mutex m_pendingMutex;
     std::unique_ptr<ViewRequest> m_pendingRequest;
