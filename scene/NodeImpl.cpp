@@ -346,13 +346,25 @@ void NodeImpl::paintMask(QPainter *painter, double scale, GLOX::GLRect<double> c
 void NodeImpl::itemChangeHook(QGraphicsItem::GraphicsItemChange change, QVariant const &)
 {
     switch (change) {
-    case QGraphicsItem::ItemParentHasChanged: onParentHasChanged(); break;
+    case QGraphicsItem::ItemParentHasChanged:
+        stampSiblingOrder();
+        onParentHasChanged();
+        break;
+    case QGraphicsItem::ItemSceneHasChanged:
+        if (!getGraphicsItem()->parentItem()) stampSiblingOrder(); // a new top-level item of its scene
+        break;
     case QGraphicsItem::ItemChildAddedChange: layoutContents(); break;
     // A selected node of a scene that uses node selection shows the scene's
     // selection effect; that arrives with node effects.
     case QGraphicsItem::ItemSelectedHasChanged: break;
     default: break;
     }
+}
+
+void NodeImpl::stampSiblingOrder()
+{
+    static std::uint64_t next = 0; // host thread only
+    m_siblingStamp = ++next;
 }
 
 void NodeImpl::onParentHasChanged()

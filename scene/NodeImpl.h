@@ -120,6 +120,10 @@ public:
     bool isOffscreenDirty() const { return m_offscreenDirty; }
     void setOffscreenDirty(bool dirty) { m_offscreenDirty = dirty; }
 
+    // When the node's item last joined its parent, or its scene as a
+    // top-level item: among siblings of equal z, the later is on top.
+    std::uint64_t siblingStamp() const { return m_siblingStamp; }
+
     // How many views this node keeps computed bounds or images for.
     int viewCacheCount() const { return m_viewCache.count(); }
     // Drops what this node keeps for the view `key`.
@@ -214,6 +218,7 @@ private:
     // The links destroy() and releaseForSceneDeath() both cut last.
     void releaseTables();
     void onParentHasChanged();
+    void stampSiblingOrder();
     bool usesOffscreenImage() const;
     // Paints the node into a new offscreen image for the current view.
     void drawOffscreenImage(OffscreenLayout const &layout, double lod, QRectF const &bounds,
@@ -238,6 +243,7 @@ private:
     void const *m_itemRectKey = nullptr;
     double m_itemRectScale = 0.0;
     QRectF m_itemRect;
+    std::uint64_t m_siblingStamp = 0;
     bool m_updateHandlerOverridden = false;
     NodeUpdateHandler *m_updateHandler = nullptr;
     GLOX::Holder<Node::CustomHitTestFunctor> m_customHitTest;

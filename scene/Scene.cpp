@@ -65,25 +65,25 @@ Node Scene::removeNode(Node const &node)
 Node Scene::getNodeAt(GLOX::GLPoint<double> const &p) const
 {
     if (!isUsable(p)) return Node();
-    return Node(NodeImpl::fromItem(d->itemAt(GLOX::toQPointF(p), QTransform())));
+    return Node(NodeImpl::fromItem(d->topmostItemAt(GLOX::toQPointF(p))));
 }
 
 GLOX::GList<Node> Scene::getNodesAtScenePos(GLOX::GLPoint<double> const &p) const
 {
     if (!isUsable(p)) return {};
-    return toNodes(d->items(GLOX::toQPointF(p)));
+    return toNodes(d->itemsAt(GLOX::toQPointF(p)));
 }
 
 GLOX::GList<Node> Scene::getNodesWithinRect(GLOX::GLRect<double> const &r) const
 {
     if (!isUsable(r)) return {};
-    return toNodes(d->items(GLOX::toQRectF(r), Qt::ContainsItemBoundingRect));
+    return toNodes(d->itemsIn(GLOX::toQRectF(r), Qt::ContainsItemBoundingRect));
 }
 
 GLOX::GList<Node> Scene::getNodesIntersectingRect(GLOX::GLRect<double> const &r) const
 {
     if (!isUsable(r)) return {};
-    return toNodes(d->items(GLOX::toQRectF(r), Qt::IntersectsItemShape));
+    return toNodes(d->itemsIn(GLOX::toQRectF(r), Qt::IntersectsItemShape));
 }
 
 GLOX::GList<Node> Scene::getAllNodes() const { return toNodes(d->items()); }

@@ -53,7 +53,7 @@ void ScenePrivate::handleKeyReleaseEvent(KeyEvent &e) { enter(e, &ToolStack::han
 NodeImpl *ScenePrivate::nodeAt(GLOX::GLPoint<double> const &scenePos) const
 {
     if (!isUsable(scenePos)) return nullptr; // an event at no real place hits nothing
-    return NodeImpl::fromItem(itemAt(GLOX::toQPointF(scenePos), QTransform()));
+    return NodeImpl::fromItem(topmostItemAt(GLOX::toQPointF(scenePos)));
 }
 
 void ScenePrivate::updateHover(MouseEvent &event)

@@ -27,10 +27,13 @@ CountRecord &nodeCount()
 }
 } // namespace
 
-ScenePrivate::ScenePrivate(Scene *scene) : m_scene(scene)
+ScenePrivate::ScenePrivate(Scene *scene)
+    : m_scene(scene), m_index(std::make_unique<SpatialIndex>(&indexedPlaceOf))
 {
     setBackgroundBrush(QBrush(QColor(0, 0, 0, 0), Qt::SolidPattern));
-    // Node bounds follow each view's scale, so no spatial index can hold.
+    // Node bounds follow each view's scale, so Qt's index would be rebuilt
+    // on every zoom: the scene keeps its own (m_index), which holds at
+    // every scale.
     setItemIndexMethod(QGraphicsScene::NoIndex);
     initializeToolFactory();
     initializeToolStack();
@@ -85,6 +88,7 @@ void ScenePrivate::markRemovedSubtree(NodeImpl *node)
     if (Behavior *behavior = node->getBehavior()) removeTool(behavior);
     if (m_hoveredNode.promote().getImpl() == node) m_hoveredNode.clear(); // no exit: it has left
     m_pendingChanges.recordRemoved(node);
+    m_index->remove(node);
     for (NodeImpl *child : node->getChildImpls()) markRemovedSubtree(child);
 }
 
@@ -108,6 +112,7 @@ void ScenePrivate::destroyScene()
         NodeImpl::fromItem(item)->releaseForSceneDeath();
     }
     m_pendingChanges.clear();
+    m_index->clear();
     nodeCount().add(-topLevel);
     clear();
     clearToolStack();
@@ -166,9 +171,20 @@ void ScenePrivate::nodeGeometryChanged(NodeImpl *node)
 {
     scheduleViewUpdate();
     m_pendingChanges.recordGeometry(node);
-    for (NodeImpl *child : node->getChildImpls())
-        if (handledHere(child)) nodeGeometryChanged(child);
+    m_index->markDirty(node);
+    for (NodeImpl *child : node->getChildImpls()) {
+        if (handledHere(child))
+            nodeGeometryChanged(child);
+        else
+            markIndexDirtySubtree(child); // reported elsewhere, but found here
+    }
     invalidateSceneBounds();
+}
+
+void ScenePrivate::markIndexDirtySubtree(NodeImpl *node)
+{
+    m_index->markDirty(node);
+    for (NodeImpl *child : node->getChildImpls()) markIndexDirtySubtree(child);
 }
 
 void ScenePrivate::nodeMoved(NodeImpl *node) { nodeGeometryChanged(node); }

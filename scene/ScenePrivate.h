@@ -36,9 +36,11 @@
 #include "GLUV/Listener.h"
 #include "scene/NodeUpdateHandler.h"
 #include "scene/PendingChanges.h"
+#include "scene/SpatialIndex.h"
 #include "scene/ZOrderingContainer.h"
 
 #include <QGraphicsScene>
+#include <memory>
 
 namespace VOR2 {
 
@@ -84,6 +86,19 @@ public:
     // Queues one delivery unless a batch is already open.
     void scheduleViewUpdate();
     void invalidateSceneBounds();
+
+    // --- Queries ----------------------------------------------------------
+    // What QGraphicsScene::items(p) and items(r, mode) answer (topmost
+    // first), found through the spatial index, so only nodes near the area
+    // are looked at. Bounds are those of the current view (GlobalViewerInfo).
+    QList<QGraphicsItem *> itemsAt(QPointF const &p) const;
+    QList<QGraphicsItem *> itemsIn(QRectF const &r, Qt::ItemSelectionMode mode) const;
+    // The topmost of itemsAt, or null.
+    QGraphicsItem *topmostItemAt(QPointF const &p) const;
+    // Tests compare the index against Qt walking every item: true makes the
+    // queries above walk.
+    void setLinearQueries(bool linear) { m_linearQueries = linear; }
+    SpatialIndex &spatialIndex() { return *m_index; }
 
     // --- Bounds and rendering ---------------------------------------------
     // Union of the visible nodes' bare bounds in scene coordinates: no stroke
@@ -169,6 +184,12 @@ public:
     virtual void destroyScene();
 
 private:
+    enum class AreaTestKind { Point, Rect };
+    // Where the index files a node (scene/IndexedPlace.cpp).
+    static IndexedPlace indexedPlaceOf(NodeImpl *node);
+    void markIndexDirtySubtree(NodeImpl *node);
+    QList<QGraphicsItem *> indexedItems(AreaTestKind kind, QPointF const &point, QRectF const &rect,
+                                        Qt::ItemSelectionMode mode) const;
     // The queued delivery: hands the pending batch to every view through
     // one emission of changed(), then drops it.
     void deliverChanges();
@@ -195,6 +216,8 @@ private:
     ToolFactory m_toolFactory;
     PendingChanges m_pendingChanges;
     PendingChanges m_delivered;
+    std::unique_ptr<SpatialIndex> m_index;
+    bool m_linearQueries = false;
     bool m_delivering = false;
     bool m_debugRepaintRegion = false;
     GLOX::Color m_debugRepaintRegionColor{0.0, 1.0, 0.0, 0.5};

@@ -19,13 +19,13 @@ void setSelectedIfDifferent(QGraphicsItem *item, bool on)
 void Scene::setSelection(GLOX::GLPoint<double> const &p, bool on)
 {
     if (!isUsable(p)) return;
-    setSelectedIfDifferent(d->itemAt(GLOX::toQPointF(p), QTransform()), on);
+    setSelectedIfDifferent(d->topmostItemAt(GLOX::toQPointF(p)), on);
 }
 
 void Scene::setSelection(GLOX::GLRect<double> const &r, bool on)
 {
     if (!isUsable(r)) return;
-    for (QGraphicsItem *item : d->items(GLOX::toQRectF(r), Qt::IntersectsItemShape)) setSelectedIfDifferent(item, on);
+    for (QGraphicsItem *item : d->itemsIn(GLOX::toQRectF(r), Qt::IntersectsItemShape)) setSelectedIfDifferent(item, on);
 }
 
 void Scene::selectAll()

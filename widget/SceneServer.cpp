@@ -154,7 +154,7 @@ QRectF SceneServer::takeNodeDirtyRect(ScenePrivate *scene, double scale)
     });
     // Nodes drawn into the area by the way must be erased properly later.
     if (!d.isEmpty())
-        for (QGraphicsItem *item : scene->items(d, Qt::IntersectsItemBoundingRect)) {
+        for (QGraphicsItem *item : scene->itemsIn(d, Qt::IntersectsItemBoundingRect)) {
             NodeImpl *node = NodeImpl::fromItem(item);
             if (node && item->isVisible() && !painted.contains(node)) painted.insert(node, drawnBounds(node, scale));
         }

@@ -1,0 +1,161 @@
+#include "scene/SpatialIndex.h"
+
+#include <absl/container/flat_hash_map.h>
+#include <absl/container/flat_hash_set.h>
+#include <boost/geometry.hpp>
+#include <boost/geometry/geometries/box.hpp>
+#include <boost/geometry/geometries/point.hpp>
+#include <boost/geometry/index/rtree.hpp>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <iterator>
+#include <utility>
+#include <vector>
+
+namespace VOR2 {
+
+namespace bg = boost::geometry;
+namespace bgi = boost::geometry::index;
+
+namespace {
+using Point = bg::model::point<double, 2, bg::cs::cartesian>;
+using Box = bg::model::box<Point>;
+using Value = std::pair<Box, NodeImpl *>;
+using Tree = bgi::rtree<Value, bgi::quadratic<16>>;
+
+// Class k holds the nodes that reach at most 2^k pixels beyond their box;
+// beyond the last class, nodes wait in a list that every query walks.
+constexpr int CLASS_COUNT = 24;
+constexpr int UNFILED = -1;
+constexpr int OUTSIDE = CLASS_COUNT;
+
+int classOf(double reachPixels)
+{
+    if (!(reachPixels <= std::ldexp(1.0, CLASS_COUNT - 1))) return OUTSIDE; // NaN too
+    if (reachPixels <= 1.0) return 0;
+    return int(std::ceil(std::log2(reachPixels)));
+}
+
+Box toBox(QRectF const &r) { return Box(Point(r.left(), r.top()), Point(r.right(), r.bottom())); }
+
+struct Entry {
+    Box box;
+    int cls = UNFILED;
+};
+} // namespace
+
+struct SpatialIndex::Data {
+    PlaceOf placeOf;
+    std::array<Tree, CLASS_COUNT> trees;
+    std::vector<NodeImpl *> outside;
+    absl::flat_hash_map<NodeImpl *, Entry> entries;
+    absl::flat_hash_set<NodeImpl *> dirty;
+
+    void unfile(NodeImpl *node, Entry &entry)
+    {
+        if (entry.cls == OUTSIDE)
+            outside.erase(std::find(outside.begin(), outside.end(), node));
+        else if (entry.cls != UNFILED)
+            trees[size_t(entry.cls)].remove(Value(entry.box, node));
+        entry.cls = UNFILED;
+    }
+    // Where the node goes now; UNFILED when it is nowhere.
+    void place(NodeImpl *node, Entry &entry)
+    {
+        IndexedPlace const p = placeOf(node);
+        if (!(p.box.width() >= 0 && p.box.height() >= 0)) return; // nowhere
+        entry.box = toBox(p.box);
+        entry.cls = classOf(p.reachPixels);
+    }
+    void fileOne(NodeImpl *node, Entry &entry)
+    {
+        place(node, entry);
+        if (entry.cls == OUTSIDE)
+            outside.push_back(node);
+        else if (entry.cls != UNFILED)
+            trees[size_t(entry.cls)].insert(Value(entry.box, node));
+    }
+    // Files everything anew, each tree packed in one go: quicker than one
+    // insertion at a time when most nodes changed (a new scene).
+    void rebuild()
+    {
+        std::array<std::vector<Value>, CLASS_COUNT> values;
+        outside.clear();
+        for (auto &[node, entry] : entries) {
+            if (dirty.contains(node)) place(node, entry);
+            if (entry.cls == OUTSIDE)
+                outside.push_back(node);
+            else if (entry.cls != UNFILED)
+                values[size_t(entry.cls)].emplace_back(entry.box, node);
+        }
+        for (int k = 0; k < CLASS_COUNT; ++k) trees[size_t(k)] = Tree(values[size_t(k)]);
+    }
+};
+
+SpatialIndex::SpatialIndex(PlaceOf placeOf) : d(std::make_unique<Data>())
+{
+    d->placeOf = std::move(placeOf);
+}
+
+SpatialIndex::~SpatialIndex() = default;
+
+void SpatialIndex::markDirty(NodeImpl *node)
+{
+    d->dirty.insert(node);
+    d->entries.try_emplace(node);
+}
+
+void SpatialIndex::remove(NodeImpl *node)
+{
+    d->dirty.erase(node);
+    auto it = d->entries.find(node);
+    if (it == d->entries.end()) return;
+    d->unfile(node, it->second);
+    d->entries.erase(it);
+}
+
+void SpatialIndex::flush()
+{
+    if (d->dirty.empty()) return;
+    if (d->dirty.size() * 4 > d->entries.size() && d->dirty.size() > 64) {
+        // Unfiled first, so the rebuild sees every entry's old class gone.
+        for (auto &tree : d->trees) tree.clear();
+        for (auto &[node, entry] : d->entries) entry.cls = d->dirty.contains(node) ? UNFILED : entry.cls;
+        d->rebuild();
+    } else {
+        for (NodeImpl *node : d->dirty) {
+            Entry &entry = d->entries[node];
+            d->unfile(node, entry);
+            d->fileOne(node, entry);
+        }
+    }
+    d->dirty.clear();
+}
+
+std::size_t SpatialIndex::size() const { return d->entries.size(); }
+
+void SpatialIndex::clear()
+{
+    for (auto &tree : d->trees) tree.clear();
+    d->outside.clear();
+    d->entries.clear();
+    d->dirty.clear();
+}
+
+void SpatialIndex::forEachCandidate(QRectF const &area, double scale, std::function<void(NodeImpl *)> const &visit)
+{
+    flush();
+    QRectF const a = area.normalized();
+    for (int k = 0; k < CLASS_COUNT; ++k) {
+        Tree const &tree = d->trees[size_t(k)];
+        if (tree.empty()) continue;
+        double const grow = scale > 0 ? std::ldexp(1.0, k) / scale : HUGE_VAL;
+        Box const query(Point(a.left() - grow, a.top() - grow), Point(a.right() + grow, a.bottom() + grow));
+        for (auto it = tree.qbegin(bgi::intersects(query)); it != tree.qend(); ++it) visit(it->second);
+    }
+    for (NodeImpl *node : d->outside) visit(node);
+}
+
+} // namespace VOR2

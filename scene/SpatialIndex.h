@@ -1,0 +1,70 @@
+#pragma once
+// SpatialIndex: where a scene's nodes are, at every view scale at once, so
+// that a query or a render looks at the nodes near its area only.
+//
+// Each node is kept by its extent without the scale (IndexExtent): a box in
+// scene coordinates, grown by what it reaches in scene units, and a reach in
+// device pixels, which becomes reach / scale in scene units at a view's
+// scale. Nodes are filed by that pixel reach in classes of powers of two
+// (up to 1, 2, 4, ... pixels), one R-tree each, so a query grows its area
+// per class by that class's reach at the query's scale: a node of wide
+// reach does not widen every query. A zoom changes nothing here.
+//
+// Changes are marked (markDirty) and applied before the next query
+// (flush): a node that changes many times between two queries is filed
+// once. Candidates are a superset of the nodes whose bounding rectangle at
+// the given scale meets the area; the caller runs the exact test.
+//
+// Host thread only. Nodes are referred to by pointer; a node must be
+// removed (remove) before it dies.
+
+#include <QRectF>
+#include <cstddef>
+#include <functional>
+#include <memory>
+
+namespace VOR2 {
+
+class NodeImpl;
+
+// Where a node is, whatever the scale: `box` in scene coordinates, already
+// grown by all it reaches in scene units, and what it reaches beyond that in
+// device pixels. A box of negative or NaN size: the node is nowhere. (A box
+// of zero width or height is somewhere: a line, a point.)
+struct IndexedPlace {
+    QRectF box;
+    double reachPixels = 0.0;
+};
+
+class SpatialIndex {
+public:
+    // `placeOf` computes a node's place when it is filed (host thread).
+    using PlaceOf = std::function<IndexedPlace(NodeImpl *)>;
+
+    explicit SpatialIndex(PlaceOf placeOf);
+    ~SpatialIndex();
+    SpatialIndex(SpatialIndex const &) = delete;
+    SpatialIndex &operator=(SpatialIndex const &) = delete;
+
+    // The node's place is to be (re)computed before the next query.
+    void markDirty(NodeImpl *node);
+    // The node leaves the index at once (it may die right after).
+    void remove(NodeImpl *node);
+    // Files every node marked dirty.
+    void flush();
+    // Every node the index holds or will hold once flushed.
+    std::size_t size() const;
+    // Forgets every node at once, without looking at any.
+    void clear();
+
+    // Calls `visit` once for each node that may meet `area` (scene
+    // coordinates) when drawn or hit-tested at view scale `scale`. Flushes
+    // first.
+    void forEachCandidate(QRectF const &area, double scale, std::function<void(NodeImpl *)> const &visit);
+
+private:
+    struct Data;
+    std::unique_ptr<Data> d;
+};
+
+} // namespace VOR2

@@ -1,0 +1,241 @@
+// The scene's spatial index against Qt walking every item: random scenes of
+// every node kind, queried at random scales, answer exactly the same nodes
+// in the same order; and the index alone finds what it must.
+
+#include <ConstantInLodScale>
+#include <ConstantLodScale>
+#include <ConstantOutLodScale>
+#include <EllipseNode>
+#include <Error>
+#include <GlobalViewerInfo>
+#include <Image>
+#include <ImageNode>
+#include <LineNode>
+#include <RectNode>
+#include <RoundedRectNode>
+#include <Scene>
+#include <SelectionNonLinearLodScale>
+#include <ShapeNode>
+#include <SplitLinearLodScale>
+
+#include "scene/NodeImpl.h"
+#include "scene/ScenePrivate.h"
+#include "scene/SpatialIndex.h"
+
+#include <QGraphicsItem>
+#include <QImage>
+#include <QPainterPath>
+#include <cmath>
+#include <gtest/gtest.h>
+#include <random>
+#include <map>
+#include <set>
+#include <sstream>
+
+using namespace VOR2;
+
+namespace {
+
+// Builds and changes random scenes, and asks both ways.
+class RandomScene {
+public:
+    explicit RandomScene(unsigned seed) : m_rng(seed) { m_scene = Scene::createScene(); }
+    ~RandomScene() { GlobalViewerInfo::instance()->clearCurrentView(); }
+
+    double uniform(double a, double b) { return std::uniform_real_distribution<double>(a, b)(m_rng); }
+    int below(int n) { return std::uniform_int_distribution<int>(0, n - 1)(m_rng); }
+    bool chance(double p) { return uniform(0, 1) < p; }
+    // Log-uniform, as zooms are.
+    double scale() { return std::exp(uniform(std::log(0.01), std::log(100.0))); }
+
+    Stroke stroke()
+    {
+        static double const widths[] = {0.0, 0.1, 1.0, 7.0, 40.0};
+        static LodScale const *const functions[] = {
+            LodScale::instance(), ConstantLodScale::instance(), ConstantInLodScale::instance(),
+            ConstantOutLodScale::instance(), SplitLinearLodScale::instance(), SelectionNonLinearLodScale::instance()};
+        if (chance(0.15)) return Stroke::NoStroke();
+        return Stroke(GLOX::Color(0.1, 0.1, 0.1), widths[below(5)], StrokeStyle(1 + below(5)),
+                      StrokeCapStyle(below(3)), StrokeJoinStyle(below(4)), functions[below(6)]);
+    }
+    GLOX::GLRect<double> rect()
+    {
+        double w = chance(0.1) ? 0.0 : uniform(0.5, 60), h = chance(0.1) ? 0.0 : uniform(0.5, 60);
+        return {uniform(-50, 400), uniform(-50, 400), w, h};
+    }
+    Node node()
+    {
+        Node n;
+        switch (below(6)) {
+        case 0: n = RectNode(rect()); break;
+        case 1: n = RoundedRectNode(rect(), chance(0.2) ? 0.0 : uniform(0.5, 10)); break;
+        case 2: n = EllipseNode(Ellipse(rect())); break;
+        case 3: {
+            LineNode line({uniform(-50, 400), uniform(-50, 400)}, {uniform(-50, 400), uniform(-50, 400)});
+            if (chance(0.3)) {
+                RectNode head(GLOX::GLRect<double>(-4, -4, 8, 8));
+                line.setEndDecoration(LineEndDecoration(head));
+            }
+            n = line;
+            break;
+        }
+        case 4: {
+            QPainterPath star;
+            double cx = uniform(0, 400), cy = uniform(0, 400), r = uniform(2, 40);
+            for (int i = 0; i < 10; ++i) {
+                double a = i * M_PI / 5, rr = i % 2 ? r / 2.5 : r;
+                QPointF p(cx + rr * std::cos(a), cy + rr * std::sin(a));
+                i ? star.lineTo(p) : star.moveTo(p);
+            }
+            star.closeSubpath();
+            n = ShapeNode(GLOX::Shape(star));
+            break;
+        }
+        default: {
+            QImage pixels(8, 6, QImage::Format_ARGB32_Premultiplied);
+            pixels.fill(Qt::red);
+            ImageNode image(Image::fromQImage(pixels));
+            image.setPosition({uniform(-50, 400), uniform(-50, 400)});
+            n = image;
+        }
+        }
+        n.setDrawStyle(DrawStyle(stroke(), Fill(GLOX::Color(0.5, 0.7, 0.9)), chance(0.5)));
+        return n;
+    }
+    void transform(Node const &n)
+    {
+        if (chance(0.25)) n.rotateDegreesAroundPoint(uniform(-180, 180), {uniform(0, 400), uniform(0, 400)});
+        if (chance(0.15)) n.scale(uniform(0.3, 3), uniform(0.3, 3));
+        if (chance(0.2)) n.setPosition({uniform(-100, 100), uniform(-100, 100)});
+    }
+
+    void build(int count)
+    {
+        for (int i = 0; i < count; ++i) {
+            Node n = node();
+            if (!m_nodes.empty() && chance(0.3))
+                n.setParent(m_nodes[size_t(below(int(m_nodes.size())))]);
+            else
+                m_scene->addNode(n);
+            transform(n);
+            if (chance(0.08)) n.setVisible(false);
+            if (chance(0.05)) n.setOpacity(0.0);
+            if (chance(0.1)) n.setClipsChildren(true);
+            if (chance(0.15)) n.setZValue(double(below(3))); // ties among siblings
+            m_nodes.push_back(n);
+        }
+    }
+    // Moves, restyles, re-parents and removes some nodes.
+    void change()
+    {
+        for (int i = 0; i < 20; ++i) {
+            Node n = m_nodes[size_t(below(int(m_nodes.size())))];
+            switch (below(5)) {
+            case 0: transform(n); break;
+            case 1: n.setDrawStyle(DrawStyle(stroke(), Fill(), chance(0.5))); break;
+            case 2: n.setVisible(!n.isVisible()); break;
+            case 3: {
+                Node other = m_nodes[size_t(below(int(m_nodes.size())))];
+                try {
+                    n.setParent(chance(0.3) ? Node() : other);
+                } catch (Error const &) { // itself or a descendant: refused, fine
+                }
+                if (!n.getScene() && chance(0.7)) m_scene->addNode(n);
+                break;
+            }
+            default: m_scene->removeNode(n); break;
+            }
+        }
+    }
+
+    // Every query both ways at `scale`; the first difference, or "".
+    std::string compare(double scale, int probes)
+    {
+        GlobalViewerInfo::instance()->setCurrentView(this, scale);
+        ScenePrivate *d = m_scene->getPrivate();
+        for (int i = 0; i < probes; ++i) {
+            QPointF p(uniform(-60, 460), uniform(-60, 460));
+            if (auto diff = differ("point", p, [&] { return d->itemsAt(p); }); !diff.empty()) return diff;
+            QRectF r(uniform(-60, 420), uniform(-60, 420), uniform(0, 120), uniform(0, 120));
+            for (Qt::ItemSelectionMode mode : {Qt::IntersectsItemShape, Qt::ContainsItemShape,
+                                               Qt::IntersectsItemBoundingRect, Qt::ContainsItemBoundingRect})
+                if (auto diff = differ("rect mode " + std::to_string(int(mode)), r.topLeft(),
+                                       [&] { return d->itemsIn(r, mode); });
+                    !diff.empty())
+                    return diff;
+        }
+        return {};
+    }
+
+    Scene &scene() { return *m_scene; }
+
+private:
+    template <typename Query>
+    std::string differ(std::string const &what, QPointF at, Query const &query)
+    {
+        ScenePrivate *d = m_scene->getPrivate();
+        d->setLinearQueries(true);
+        QList<QGraphicsItem *> const walked = query();
+        d->setLinearQueries(false);
+        QList<QGraphicsItem *> const indexed = query();
+        if (walked == indexed) return {};
+        std::ostringstream out;
+        out << what << " at " << at.x() << ", " << at.y() << ": walk found " << walked.size() << ", index "
+            << indexed.size();
+        return out.str();
+    }
+
+    std::mt19937 m_rng;
+    GLOX::Holder<Scene> m_scene;
+    std::vector<Node> m_nodes;
+};
+
+} // namespace
+
+TEST(SpatialIndex, EveryQueryAnswersWhatTheWalkAnswersAtEveryScale)
+{
+    for (unsigned seed = 1; seed <= 12; ++seed) {
+        RandomScene random(seed);
+        random.build(120);
+        for (int round = 0; round < 4; ++round) {
+            for (int s = 0; s < 3; ++s) {
+                double const scale = s == 0 ? 1.0 : random.scale();
+                std::string diff = random.compare(scale, 25);
+                ASSERT_EQ(diff, "") << "seed " << seed << ", round " << round << ", scale " << scale;
+            }
+            random.change();
+        }
+    }
+}
+
+TEST(SpatialIndex, CandidatesAreFiledByReachAndFoundAtEveryScale)
+{
+    // Three nodes stood in by addresses; the index never looks at them.
+    NodeImpl *const near = reinterpret_cast<NodeImpl *>(0x10), *const wide = reinterpret_cast<NodeImpl *>(0x20),
+                    *const far = reinterpret_cast<NodeImpl *>(0x30);
+    std::map<NodeImpl *, IndexedPlace> places{{near, {QRectF(0, 0, 10, 10), 0.5}},
+                                               {wide, {QRectF(200, 0, 10, 10), 40.0}},
+                                               {far, {QRectF(1000, 1000, 10, 10), 1.0}}};
+    SpatialIndex index([&](NodeImpl *node) { return places.at(node); });
+    for (auto const &entry : places) index.markDirty(entry.first);
+    auto found = [&](QRectF const &area, double scale) {
+        std::set<NodeImpl *> nodes;
+        index.forEachCandidate(area, scale, [&](NodeImpl *n) { nodes.insert(n); });
+        return nodes;
+    };
+    EXPECT_EQ(found(QRectF(150, 0, 10, 10), 1.0), (std::set<NodeImpl *>{wide}))
+        << "40 pixels reach 40 units at scale 1: from 200 down to 160";
+    EXPECT_EQ(found(QRectF(150, 0, 10, 10), 100.0), (std::set<NodeImpl *>{}))
+        << "at scale 100 the same 40 pixels are 0.4 units";
+    EXPECT_EQ(found(QRectF(11, 0, 1, 1), 0.5), (std::set<NodeImpl *>{near})) << "half a pixel at scale 0.5";
+
+    places[far] = {QRectF(5, 5, 1, 1), 0.0}; // moved
+    index.markDirty(far);
+    EXPECT_EQ(found(QRectF(5, 5, 1, 1), 1.0), (std::set<NodeImpl *>{near, far}));
+    index.remove(near);
+    EXPECT_EQ(found(QRectF(5, 5, 1, 1), 1.0), (std::set<NodeImpl *>{far}));
+    places[far] = {QRectF(0, 0, -1, -1), 0.0}; // nowhere
+    index.markDirty(far);
+    EXPECT_TRUE(found(QRectF(-1e9, -1e9, 2e9, 2e9), 1.0).count(far) == 0);
+    EXPECT_EQ(index.size(), 2u) << "a node that is nowhere is still known";
+}
