@@ -95,8 +95,11 @@ public:
     QList<QGraphicsItem *> itemsIn(QRectF const &r, Qt::ItemSelectionMode mode) const;
     // The topmost of itemsAt, or null.
     QGraphicsItem *topmostItemAt(QPointF const &p) const;
+    // What QGraphicsScene::render draws, the items found through the index.
+    void renderRegion(QPainter *painter, QRectF const &target, QRectF const &source,
+                      Qt::AspectRatioMode aspectRatioMode);
     // Tests compare the index against Qt walking every item: true makes the
-    // queries above walk.
+    // queries above and renderRegion walk.
     void setLinearQueries(bool linear) { m_linearQueries = linear; }
     SpatialIndex &spatialIndex() { return *m_index; }
 

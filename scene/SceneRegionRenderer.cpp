@@ -12,7 +12,7 @@ void renderSceneRegion(QPainter *painter, ScenePrivate *scene, QRect const &targ
     painter->setCompositionMode(QPainter::CompositionMode_Source);
     painter->fillRect(target, Qt::transparent);
     painter->setCompositionMode(mode);
-    scene->render(painter, QRectF(target), source, Qt::KeepAspectRatio);
+    scene->renderRegion(painter, QRectF(target), source, Qt::KeepAspectRatio);
     if (scene->usingDebugRepaintRegion()) painter->fillRect(target, GLOX::toQColor(scene->debugRepaintRegionColor()));
     painter->end();
 }

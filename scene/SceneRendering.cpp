@@ -42,7 +42,7 @@ void renderAsOwnView(ScenePrivate *d, QPainter &painter, QRectF target, QRectF c
     if (from.width() > 0 && from.height() > 0)
         scale *= std::min(target.width() / from.width(), target.height() / from.height());
     RenderViewScope view(scale);
-    d->render(&painter, target, from, Qt::KeepAspectRatio);
+    d->renderRegion(&painter, target, from, Qt::KeepAspectRatio);
 }
 } // namespace
 

@@ -24,6 +24,7 @@
 
 #include <QGraphicsItem>
 #include <QImage>
+#include <QPainter>
 #include <QPainterPath>
 #include <cmath>
 #include <gtest/gtest.h>
@@ -167,6 +168,30 @@ public:
         return {};
     }
 
+    // A random region drawn both ways at a random scale; false when a pixel
+    // differs.
+    bool rendersAlike(double scale, std::string &where)
+    {
+        GlobalViewerInfo::instance()->setCurrentView(this, scale);
+        QRectF source(uniform(-60, 400), uniform(-60, 400), uniform(5, 150), uniform(5, 150));
+        QSize size(int(std::ceil(source.width() * scale)), int(std::ceil(source.height() * scale)));
+        size = size.boundedTo(QSize(600, 600)).expandedTo(QSize(1, 1));
+        auto draw = [&](bool linear) {
+            QImage image(size, QImage::Format_ARGB32_Premultiplied);
+            image.fill(Qt::transparent);
+            QPainter painter(&image);
+            m_scene->getPrivate()->setLinearQueries(linear);
+            m_scene->getPrivate()->renderRegion(&painter, QRectF(QPointF(0, 0), size), source, Qt::KeepAspectRatio);
+            m_scene->getPrivate()->setLinearQueries(false);
+            return image;
+        };
+        QImage const walked = draw(true), indexed = draw(false);
+        std::ostringstream out;
+        out << "region " << source.x() << ", " << source.y() << ", " << source.width() << " by " << source.height();
+        where = out.str();
+        return walked == indexed;
+    }
+
     Scene &scene() { return *m_scene; }
 
 private:
@@ -202,6 +227,22 @@ TEST(SpatialIndex, EveryQueryAnswersWhatTheWalkAnswersAtEveryScale)
                 double const scale = s == 0 ? 1.0 : random.scale();
                 std::string diff = random.compare(scale, 25);
                 ASSERT_EQ(diff, "") << "seed " << seed << ", round " << round << ", scale " << scale;
+            }
+            random.change();
+        }
+    }
+}
+
+TEST(SpatialIndex, RegionsDrawTheSamePixelsAsTheWalk)
+{
+    for (unsigned seed = 101; seed <= 106; ++seed) {
+        RandomScene random(seed);
+        random.build(120);
+        for (int round = 0; round < 3; ++round) {
+            for (int r = 0; r < 6; ++r) {
+                double const scale = r == 0 ? 1.0 : random.scale();
+                std::string where;
+                ASSERT_TRUE(random.rendersAlike(scale, where)) << "seed " << seed << ", " << where << " at scale " << scale;
             }
             random.change();
         }
