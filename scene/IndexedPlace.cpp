@@ -11,6 +11,9 @@ namespace VOR2 {
 IndexedPlace ScenePrivate::indexedPlaceOf(NodeImpl *node)
 {
     QGraphicsItem const *item = node->getGraphicsItem();
+    // Hidden items are neither found nor drawn; showing one (or an
+    // ancestor) reports it again.
+    if (!item->isVisible()) return {QRectF(0, 0, -1, -1), 0.0};
     return {item->sceneTransform().mapRect(item->boundingRect().normalized()), 1e6};
 }
 

@@ -144,6 +144,26 @@ void SpatialIndex::clear()
     d->dirty.clear();
 }
 
+QRectF SpatialIndex::extent(double scale)
+{
+    flush();
+    QRectF united;
+    auto unite = [&](Box const &b, double grow) {
+        united |= QRectF(QPointF(b.min_corner().get<0>() - grow, b.min_corner().get<1>() - grow),
+                         QPointF(b.max_corner().get<0>() + grow, b.max_corner().get<1>() + grow));
+    };
+    for (int k = 0; k < CLASS_COUNT; ++k) {
+        Tree const &tree = d->trees[size_t(k)];
+        if (!tree.empty()) unite(tree.bounds(), scale > 0 ? std::ldexp(1.0, k) / scale : HUGE_VAL);
+    }
+    // The few of immense reach are asked again; one past all bounds is left out.
+    for (NodeImpl *node : d->outside) {
+        double const grow = scale > 0 ? d->placeOf(node).reachPixels / scale : HUGE_VAL;
+        if (std::isfinite(grow)) unite(d->entries[node].box, grow);
+    }
+    return united;
+}
+
 void SpatialIndex::forEachCandidate(QRectF const &area, double scale, std::function<void(NodeImpl *)> const &visit)
 {
     flush();

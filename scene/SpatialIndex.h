@@ -57,6 +57,11 @@ public:
     // Forgets every node at once, without looking at any.
     void clear();
 
+    // A rectangle that holds every filed node as drawn at view scale
+    // `scale`: the boxes' union, each class grown by its reach at that
+    // scale. Empty when no node is filed. Flushes first.
+    QRectF extent(double scale);
+
     // Calls `visit` once for each node that may meet `area` (scene
     // coordinates) when drawn or hit-tested at view scale `scale`. Flushes
     // first.
