@@ -25,17 +25,38 @@ using Box = bg::model::box<Point>;
 using Value = std::pair<Box, NodeImpl *>;
 using Tree = bgi::rtree<Value, bgi::quadratic<16>>;
 
-// Class k holds the nodes that reach at most 2^k pixels beyond their box;
-// beyond the last class, nodes wait in a list that every query walks.
-constexpr int CLASS_COUNT = 24;
+// Class k (below SCALED) holds the nodes that reach at most 2^k pixels
+// beyond their box; class SCALED + k those that also reach in pixels over
+// the scale, at most 2^k of both together. Beyond the last class, nodes wait
+// in a list that every query walks.
+constexpr int CLASSES_PER_KIND = 24;
+constexpr int SCALED = CLASSES_PER_KIND;
+constexpr int CLASS_COUNT = 2 * CLASSES_PER_KIND;
 constexpr int UNFILED = -1;
 constexpr int OUTSIDE = CLASS_COUNT;
 
-int classOf(double reachPixels)
+int powerClass(double reach)
 {
-    if (!(reachPixels <= std::ldexp(1.0, CLASS_COUNT - 1))) return OUTSIDE; // NaN too
-    if (reachPixels <= 1.0) return 0;
-    return int(std::ceil(std::log2(reachPixels)));
+    if (!(reach <= std::ldexp(1.0, CLASSES_PER_KIND - 1))) return -1; // NaN too
+    if (reach <= 1.0) return 0;
+    return int(std::ceil(std::log2(reach)));
+}
+
+int classOf(IndexedPlace const &p)
+{
+    bool const scaled = p.reachPixelsOverScale != 0.0;
+    int const k = powerClass(scaled ? p.reachPixels + p.reachPixelsOverScale : p.reachPixels);
+    if (k < 0) return OUTSIDE;
+    return scaled ? SCALED + k : k;
+}
+
+// What class `cls` reaches beyond its boxes at view scale s.
+double growthOf(int cls, double scale)
+{
+    if (!(scale > 0)) return HUGE_VAL;
+    if (cls < SCALED) return std::ldexp(1.0, cls) / scale;
+    double const r = std::ldexp(1.0, cls - SCALED);
+    return scale >= 1.0 ? r / scale : r / (scale * scale);
 }
 
 Box toBox(QRectF const &r) { return Box(Point(r.left(), r.top()), Point(r.right(), r.bottom())); }
@@ -67,7 +88,7 @@ struct SpatialIndex::Data {
         IndexedPlace const p = placeOf(node);
         if (!(p.box.width() >= 0 && p.box.height() >= 0)) return; // nowhere
         entry.box = toBox(p.box);
-        entry.cls = classOf(p.reachPixels);
+        entry.cls = classOf(p);
     }
     void fileOne(NodeImpl *node, Entry &entry)
     {
@@ -154,11 +175,12 @@ QRectF SpatialIndex::extent(double scale)
     };
     for (int k = 0; k < CLASS_COUNT; ++k) {
         Tree const &tree = d->trees[size_t(k)];
-        if (!tree.empty()) unite(tree.bounds(), scale > 0 ? std::ldexp(1.0, k) / scale : HUGE_VAL);
+        if (!tree.empty()) unite(tree.bounds(), growthOf(k, scale));
     }
     // The few of immense reach are asked again; one past all bounds is left out.
     for (NodeImpl *node : d->outside) {
-        double const grow = scale > 0 ? d->placeOf(node).reachPixels / scale : HUGE_VAL;
+        IndexedPlace const p = d->placeOf(node);
+        double const grow = p.reachPixels / scale + p.reachPixelsOverScale / (scale * scale);
         if (std::isfinite(grow)) unite(d->entries[node].box, grow);
     }
     return united;
@@ -171,7 +193,7 @@ void SpatialIndex::forEachCandidate(QRectF const &area, double scale, std::funct
     for (int k = 0; k < CLASS_COUNT; ++k) {
         Tree const &tree = d->trees[size_t(k)];
         if (tree.empty()) continue;
-        double const grow = scale > 0 ? std::ldexp(1.0, k) / scale : HUGE_VAL;
+        double const grow = growthOf(k, scale);
         Box const query(Point(a.left() - grow, a.top() - grow), Point(a.right() + grow, a.bottom() + grow));
         for (auto it = tree.qbegin(bgi::intersects(query)); it != tree.qend(); ++it) visit(it->second);
     }

@@ -2,13 +2,16 @@
 // SpatialIndex: where a scene's nodes are, at every view scale at once, so
 // that a query or a render looks at the nodes near its area only.
 //
-// Each node is kept by its extent without the scale (IndexExtent): a box in
+// Each node is kept by its place without the scale (IndexedPlace): a box in
 // scene coordinates, grown by what it reaches in scene units, and a reach in
 // device pixels, which becomes reach / scale in scene units at a view's
 // scale. Nodes are filed by that pixel reach in classes of powers of two
 // (up to 1, 2, 4, ... pixels), one R-tree each, so a query grows its area
 // per class by that class's reach at the query's scale: a node of wide
-// reach does not widen every query. A zoom changes nothing here.
+// reach does not widen every query. Nodes that also reach in pixels over
+// the scale are filed apart, in classes by the sum R of both reaches, grown
+// by R / s at scales from 1 up and R / s^2 below, which bounds the two
+// terms together. A zoom changes nothing here.
 //
 // Changes are marked (markDirty) and applied before the next query
 // (flush): a node that changes many times between two queries is filed
@@ -28,12 +31,15 @@ namespace VOR2 {
 class NodeImpl;
 
 // Where a node is, whatever the scale: `box` in scene coordinates, already
-// grown by all it reaches in scene units, and what it reaches beyond that in
-// device pixels. A box of negative or NaN size: the node is nowhere. (A box
-// of zero width or height is somewhere: a line, a point.)
+// grown by all it reaches in scene units, and what it reaches beyond that at
+// view scale s: reachPixels / s + reachPixelsOverScale / s^2 scene units (a
+// width in pixels, and one in pixels divided by the scale once more, as a
+// line's hit band is). A box of negative or NaN size: the node is nowhere.
+// (A box of zero width or height is somewhere: a line, a point.)
 struct IndexedPlace {
     QRectF box;
     double reachPixels = 0.0;
+    double reachPixelsOverScale = 0.0;
 };
 
 class SpatialIndex {

@@ -270,6 +270,15 @@ TEST(SpatialIndex, CandidatesAreFiledByReachAndFoundAtEveryScale)
         << "at scale 100 the same 40 pixels are 0.4 units";
     EXPECT_EQ(found(QRectF(11, 0, 1, 1), 0.5), (std::set<NodeImpl *>{near})) << "half a pixel at scale 0.5";
 
+    // A reach in pixels over the scale grows as the view zooms out.
+    NodeImpl *const band = reinterpret_cast<NodeImpl *>(0x40);
+    places[band] = {QRectF(500, 0, 1, 1), 0.0, 3.0};
+    index.markDirty(band);
+    EXPECT_EQ(found(QRectF(420, 0, 1, 1), 0.2).count(band), 1u) << "3 / 0.04 = 75 units at scale 0.2";
+    EXPECT_EQ(found(QRectF(420, 0, 1, 1), 1.0).count(band), 0u) << "3 units at scale 1";
+    EXPECT_EQ(found(QRectF(498, 0, 1, 1), 2.0).count(band), 1u) << "1.5 units at scale 2";
+    index.remove(band);
+
     places[far] = {QRectF(5, 5, 1, 1), 0.0}; // moved
     index.markDirty(far);
     EXPECT_EQ(found(QRectF(5, 5, 1, 1), 1.0), (std::set<NodeImpl *>{near, far}));
