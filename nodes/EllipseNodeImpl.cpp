@@ -3,6 +3,7 @@
 #include "nodes/MaskStyle.h"
 #include "nodes/OutlineStroker.h"
 #include "nodes/StylePainter.h"
+#include "nodes/StrokeReach.h"
 
 namespace VOR2 {
 
@@ -25,6 +26,12 @@ Bounds EllipseNodeImpl::computeBounds() { return Bounds(ellipsePath()); }
 Bounds EllipseNodeImpl::computeStrokedOutline(double scale)
 {
     return Bounds(convexStrokedArea(ellipsePath(), getDrawStyle().stroke(), scale));
+}
+
+// Qt's default stroker on a closed convex outline: no corners, no caps.
+IndexExtent EllipseNodeImpl::getIndexExtent()
+{
+    return strokedExtent(rect(), getDrawStyle().stroke(), CURVE_SLACK);
 }
 
 void EllipseNodeImpl::paintContents(QPainter *painter, QStyleOptionGraphicsItem const *, QWidget *)

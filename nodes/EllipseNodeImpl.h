@@ -17,6 +17,9 @@ public:
     bool isa(char const *typeName) const override;
 
     Bounds computeBounds() override;
+    // The ellipse's rectangle; half the stroke width's bound as reach, with
+    // room for the curves.
+    IndexExtent getIndexExtent() override;
     // The ellipse widened by the stroke at `scale` (default join and cap),
     // united with its interior.
     Bounds computeStrokedOutline(double scale) override;

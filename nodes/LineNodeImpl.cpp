@@ -4,6 +4,7 @@
 
 #include "nodes/OutlineStroker.h"
 #include "nodes/StylePainter.h"
+#include "nodes/StrokeReach.h"
 #include "values/UsableNumber.h"
 
 #include <QPainterPathStroker>
@@ -107,6 +108,26 @@ Bounds LineNodeImpl::computeHitBounds(double scale)
     // width already in scene units included.
     stroker.setWidth(w / scale);
     return Bounds(simplifiedOutline(stroker.createStroke(geometricPath())));
+}
+
+// With the stroke's width W(s) <= a + b / s, the outline reaches
+// cap * W / 2. The hit band is max(W, 2 * tolerance) / s wide with a square
+// cap: sqrt(2) / 2 * max(W / s, 2 * tolerance / s), and W / s <= a / s +
+// b / s^2, which no constant and pixel part can bound as s falls.
+IndexExtent LineNodeImpl::getIndexExtent()
+{
+    IndexExtent extent;
+    QRectF const box = QRectF(m_start, m_end).normalized();
+    if (!isUsable(box)) return extent;
+    extent.local = box;
+    Stroke const &stroke = getDrawStyle().stroke();
+    LodReach const width = stroke.widthBound();
+    LodReach const outline = width.scaled(0.5 * capGrowth(stroke.capStyle()) * CURVE_SLACK);
+    double const hit = 0.5 * std::sqrt(2.0) * CURVE_SLACK;
+    extent.reachSceneUnits = outline.sceneUnits;
+    extent.reachPixels = std::max(outline.pixels, hit * std::max(width.sceneUnits, 2 * hitTolerance()));
+    extent.reachPixelsOverScale = hit * width.pixels;
+    return extent;
 }
 
 bool LineNodeImpl::contains(GLOX::GLPoint<double> const &p)

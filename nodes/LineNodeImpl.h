@@ -43,6 +43,10 @@ public:
     void setEndDecoration(LineEndDecoration const &decoration);
 
     Bounds computeBounds() override;
+    // The segment's box. Reach: the larger of half the stroke width's bound
+    // grown by the cap, and the hit band's half width, grown by the square
+    // cap of Qt's default stroker. The decorations have extents of their own.
+    IndexExtent getIndexExtent() override;
     // The segment widened by the stroke's width, cap and join at `scale`,
     // whatever its line style: an undrawn line still has an outline.
     Bounds computeStrokedOutline(double scale) override;

@@ -1,5 +1,6 @@
 #include "nodes/RectNodeImpl.h"
 
+#include "nodes/StrokeReach.h"
 #include "nodes/StylePainter.h"
 #include "values/UsableNumber.h"
 
@@ -32,6 +33,9 @@ Bounds RectNodeImpl::computeStrokedOutline(double scale)
     double half = 0.5 * stroke.width(scale);
     return Bounds(m_rect.adjusted(-half, -half, half, half));
 }
+
+// The outline is the rectangle grown by exactly half the width.
+IndexExtent RectNodeImpl::getIndexExtent() { return strokedExtent(m_rect, getDrawStyle().stroke(), 1.0); }
 
 void RectNodeImpl::paintContents(QPainter *painter, QStyleOptionGraphicsItem const *, QWidget *)
 {

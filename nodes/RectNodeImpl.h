@@ -21,6 +21,8 @@ public:
     void setRect(QRectF const &rect);
 
     Bounds computeBounds() override;
+    // The rectangle; half the stroke width's bound as reach.
+    IndexExtent getIndexExtent() override;
     // The rectangle grown by half the stroke width at `scale` on each side.
     Bounds computeStrokedOutline(double scale) override;
     void paintContents(QPainter *painter, QStyleOptionGraphicsItem const *option, QWidget *widget) override;

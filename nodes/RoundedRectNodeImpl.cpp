@@ -5,6 +5,7 @@
 #include "nodes/MaskStyle.h"
 #include "nodes/OutlineStroker.h"
 #include "nodes/StylePainter.h"
+#include "nodes/StrokeReach.h"
 #include "values/UsableNumber.h"
 
 namespace VOR2 {
@@ -50,6 +51,12 @@ Bounds RoundedRectNodeImpl::computeBounds()
 Bounds RoundedRectNodeImpl::computeStrokedOutline(double scale)
 {
     return Bounds(convexStrokedArea(outlinePath(), getDrawStyle().stroke(), scale));
+}
+
+// Qt's default stroker on a closed convex outline: bevel joins, no caps.
+IndexExtent RoundedRectNodeImpl::getIndexExtent()
+{
+    return strokedExtent(m_rect, getDrawStyle().stroke(), CURVE_SLACK);
 }
 
 void RoundedRectNodeImpl::draw(QPainter *painter) const

@@ -24,6 +24,9 @@ public:
     void setRadius(double radius);
 
     Bounds computeBounds() override;
+    // The rectangle; half the stroke width's bound as reach, with room for
+    // the curves of the corners.
+    IndexExtent getIndexExtent() override;
     // The rounded outline widened by the stroke at `scale` (default join and
     // cap), united with the interior.
     Bounds computeStrokedOutline(double scale) override;

@@ -2,6 +2,9 @@
 
 #include "nodes/OutlineStroker.h"
 #include "nodes/StylePainter.h"
+#include "nodes/StrokeReach.h"
+
+#include <algorithm>
 
 namespace VOR2 {
 
@@ -24,6 +27,14 @@ Bounds ShapeNodeImpl::computeBounds() { return Bounds(m_shape); }
 Bounds ShapeNodeImpl::computeStrokedOutline(double scale)
 {
     return Bounds(strokedArea(m_shape.getPath(), getDrawStyle().stroke(), scale, StrokerShape::FromStroke));
+}
+
+IndexExtent ShapeNodeImpl::getIndexExtent()
+{
+    if (m_shape.isEmpty()) return IndexExtent();
+    Stroke const &stroke = getDrawStyle().stroke();
+    double const growth = std::max(capGrowth(stroke.capStyle()), joinGrowth(stroke.joinStyle())) * CURVE_SLACK;
+    return strokedExtent(GLOX::toQRectF(getBounds().boundingRect()), stroke, growth);
 }
 
 void ShapeNodeImpl::paintContents(QPainter *painter, QStyleOptionGraphicsItem const *, QWidget *)

@@ -22,6 +22,9 @@ public:
     void setShape(GLOX::Shape const &shape);
 
     Bounds computeBounds() override;
+    // The shape's box; half the stroke width's bound, grown by the larger of
+    // the stroke's cap and join, as reach. Empty for an empty shape.
+    IndexExtent getIndexExtent() override;
     // The shape widened by the stroke at `scale`, with the stroke's own cap
     // and join, united with its interior.
     Bounds computeStrokedOutline(double scale) override;

@@ -22,6 +22,7 @@
 #include "GLOX/Holder.h"
 #include "GLOX/ReferencedTemplate.h"
 #include "GLOX/StringID.h"
+#include "scene/IndexExtent.h"
 #include "scene/LayoutContainer.h"
 #include "scene/LayoutItem.h"
 #include "scene/NodeViewCache.h"
@@ -160,6 +161,14 @@ public:
     // The rectangle that holds the stroked outline and every effect.
     virtual Bounds computeMaximumBounds(double scale);
     virtual Bounds computeHitBounds(double scale);
+    // Where the node reaches at every view scale (see IndexExtent), for a
+    // spatial index that is not rebuilt on zoom. Computed on each call from
+    // the geometry and the draw style, without path work beyond the cached
+    // bounds; the default is the bounds' rectangle with no reach, right for
+    // every kind whose outline and hit area are its bounds. A custom hit
+    // test functor whose hit area passes the node's own outline is not
+    // covered: its area at a scale is not known before it is asked.
+    virtual IndexExtent getIndexExtent();
     virtual bool contains(GLOX::GLPoint<double> const &p);
     virtual bool intersects(GLOX::GLRect<double> const &r);
     virtual bool intersects(Bounds const &b);

@@ -13,6 +13,12 @@ GLOX::StringID ConstantLodScale::name() const
     return id;
 }
 
+// f = 1 / s is a constant on-screen size: (0, 1), exact everywhere.
+LodReach ConstantLodScale::reachBound() const
+{
+    return {0.0, 1.0};
+}
+
 LodScale const *ConstantLodScale::instance()
 {
     static ConstantLodScale const s;

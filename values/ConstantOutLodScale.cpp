@@ -13,6 +13,14 @@ GLOX::StringID ConstantOutLodScale::name() const
     return id;
 }
 
+// f = max(1, 1 / s), so f <= 1 + 1 / s. Neither part can be smaller: f
+// tends to 1 as s grows and to 1 / s as s falls, where the bound is exact
+// in the limit; at s = 1 it is twice the factor.
+LodReach ConstantOutLodScale::reachBound() const
+{
+    return {1.0, 1.0};
+}
+
 LodScale const *ConstantOutLodScale::instance()
 {
     static ConstantOutLodScale const s;

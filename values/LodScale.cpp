@@ -19,6 +19,12 @@ GLOX::StringID LodScale::name() const
     return id;
 }
 
+// f = 1 grows with the scene alone: (1, 0), exact everywhere.
+LodReach LodScale::reachBound() const
+{
+    return {1.0, 0.0};
+}
+
 LodScale const *LodScale::instance()
 {
     static LodScale const s;

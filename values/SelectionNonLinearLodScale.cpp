@@ -18,6 +18,14 @@ GLOX::StringID SelectionNonLinearLodScale::name() const
     return id;
 }
 
+// In pixels, f * s is 0.5 up to s = 0.5, 1.5 s / (s + 0.5) (from 0.75 to 1)
+// up to 1, 3 s / (s + 2) (from 1 to 2) up to 4 and 2 from there on; it
+// never passes 2: f <= 2 / s, exact from s = 4 up.
+LodReach SelectionNonLinearLodScale::reachBound() const
+{
+    return {0.0, 2.0};
+}
+
 LodScale const *SelectionNonLinearLodScale::instance()
 {
     static SelectionNonLinearLodScale const s;

@@ -32,6 +32,12 @@ double Stroke::width(double scale) const
     return isWidth(w) ? w : 0.0;
 }
 
+LodReach Stroke::widthBound() const
+{
+    if (m_logicalWidth == 0.0) return {0.0, 1.0};
+    return m_scaleFunction->reachBound().scaled(m_logicalWidth);
+}
+
 bool Stroke::operator==(Stroke const &o) const
 {
     return m_color == o.m_color && m_logicalWidth == o.m_logicalWidth && m_style == o.m_style &&
