@@ -3,6 +3,8 @@
 // values/UsableNumber.h) counts for nothing, so that one such node cannot
 // spoil the extent of all the others.
 
+#include <GlobalViewerInfo>
+
 #include "scene/NodeImpl.h"
 #include "scene/ScenePrivate.h"
 #include "values/UsableNumber.h"
@@ -37,6 +39,12 @@ GLOX::GLRect<double> ScenePrivate::getNodesBounds()
 
 GLOX::GLRect<double> ScenePrivate::getVisibleItemsRect()
 {
+    // The index holds every shown node at every scale: its extent at the
+    // current view's scale holds them all, a little generously (by at most
+    // each node's reach), and costs no walk.
+    QRectF const extent = m_index->extent(GlobalViewerInfo::instance()->getViewerScale());
+    if (extent.isEmpty() || hasUsableArea(extent)) return GLOX::toDRect(extent);
+    // A node beyond usable numbers (see above) would spoil it: walk.
     if (isCached(m_visibleItemsRect)) return m_visibleItemsRect;
     QRectF united;
     for (QGraphicsItem *item : items()) {

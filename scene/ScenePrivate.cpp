@@ -1,4 +1,5 @@
 #include "scene/ScenePrivate.h"
+#include "values/UsableNumber.h"
 
 #include <Behavior>
 #include <Diagnostics>
@@ -35,6 +36,9 @@ ScenePrivate::ScenePrivate(Scene *scene)
     // on every zoom: the scene keeps its own (m_index), which holds at
     // every scale.
     setItemIndexMethod(QGraphicsScene::NoIndex);
+    // A scene rectangle of its own spares Qt a walk of every item to grow
+    // one each time it announces a change; the library never reads it.
+    setSceneRect(QRectF(-COORDINATE_LIMIT, -COORDINATE_LIMIT, 2 * COORDINATE_LIMIT, 2 * COORDINATE_LIMIT));
     initializeToolFactory();
     initializeToolStack();
 }

@@ -107,9 +107,13 @@ public:
     // Union of the visible nodes' bare bounds in scene coordinates: no stroke
     // width, no effects. Cached until the next geometry change.
     GLOX::GLRect<double> getNodesBounds();
-    // Union of the visible items' scene bounding rectangles, strokes and
-    // effects included. Cached the same way.
+    // A rectangle holding the visible items as drawn at the current view's
+    // scale, strokes and effects included: from the spatial index, so it
+    // may exceed their union by each node's reach. Empty for a scene with
+    // nothing shown.
     GLOX::GLRect<double> getVisibleItemsRect();
+    // Whether the scene holds any node, shown or not.
+    bool hasNodes() const { return m_index->size() > 0; }
     bool usingDebugRepaintRegion() const { return m_debugRepaintRegion; }
     void setDebugRepaintRegion(bool on) { m_debugRepaintRegion = on; }
     GLOX::Color const &debugRepaintRegionColor() const { return m_debugRepaintRegionColor; }

@@ -198,7 +198,7 @@ void SceneServer::renderLayer(ScenePrivate *scene, QRectF const &givenDirty)
     last = view;
     if (d.width() > 0 && d.height() > 0) m_rendering.dirty |= d;
     publishBackground(layer, scene->getBackground());
-    layer.visible = !scene->items().isEmpty();
+    layer.visible = scene->hasNodes();
     m_fullRedraw = false;
     renderingEmitter.send(&m_rendering);
     GlobalViewerInfo::instance()->clearCurrentView();
