@@ -1,7 +1,8 @@
 #include "scene/SpatialIndex.h"
 
+#include "values/UsableNumber.h"
+
 #include <absl/container/flat_hash_map.h>
-#include <absl/container/flat_hash_set.h>
 #include <boost/geometry.hpp>
 #include <boost/geometry/geometries/box.hpp>
 #include <boost/geometry/geometries/point.hpp>
@@ -10,6 +11,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <cstdint>
 #include <iterator>
 #include <utility>
 #include <vector>
@@ -20,7 +22,10 @@ namespace bg = boost::geometry;
 namespace bgi = boost::geometry::index;
 
 namespace {
-using Point = bg::model::point<double, 2, bg::cs::cartesian>;
+// Boxes are kept in single precision, rounded outward: half the memory, and
+// a candidate a hair too many at worst. Nodes beyond what a float holds go
+// to the list that every query walks.
+using Point = bg::model::point<float, 2, bg::cs::cartesian>;
 using Box = bg::model::box<Point>;
 using Value = std::pair<Box, NodeImpl *>;
 using Tree = bgi::rtree<Value, bgi::quadratic<16>>;
@@ -59,11 +64,32 @@ double growthOf(int cls, double scale)
     return scale >= 1.0 ? r / scale : r / (scale * scale);
 }
 
-Box toBox(QRectF const &r) { return Box(Point(r.left(), r.top()), Point(r.right(), r.bottom())); }
+constexpr double FLOAT_RANGE = 1e37;
+
+float down(double v)
+{
+    float f = float(v);
+    return double(f) > v ? std::nextafter(f, -HUGE_VALF) : f;
+}
+float up(double v)
+{
+    float f = float(v);
+    return double(f) < v ? std::nextafter(f, HUGE_VALF) : f;
+}
+bool fitsFloat(QRectF const &r)
+{
+    return std::fabs(r.left()) < FLOAT_RANGE && std::fabs(r.right()) < FLOAT_RANGE && std::fabs(r.top()) < FLOAT_RANGE &&
+           std::fabs(r.bottom()) < FLOAT_RANGE;
+}
+Box toBox(QRectF const &r)
+{
+    return Box(Point(down(r.left()), down(r.top())), Point(up(r.right()), up(r.bottom())));
+}
 
 struct Entry {
     Box box;
-    int cls = UNFILED;
+    std::int8_t cls = UNFILED;
+    bool dirty = false; // in the dirty list, to be filed at the next flush
 };
 } // namespace
 
@@ -72,7 +98,9 @@ struct SpatialIndex::Data {
     std::array<Tree, CLASS_COUNT> trees;
     std::vector<NodeImpl *> outside;
     absl::flat_hash_map<NodeImpl *, Entry> entries;
-    absl::flat_hash_set<NodeImpl *> dirty;
+    // Nodes marked since the last flush; a removed one stays here, and is
+    // looked up by key only, never through the pointer.
+    std::vector<NodeImpl *> dirtyList;
 
     void unfile(NodeImpl *node, Entry &entry)
     {
@@ -85,10 +113,15 @@ struct SpatialIndex::Data {
     // Where the node goes now; UNFILED when it is nowhere.
     void place(NodeImpl *node, Entry &entry)
     {
+        entry.dirty = false;
         IndexedPlace const p = placeOf(node);
         if (!(p.box.width() >= 0 && p.box.height() >= 0)) return; // nowhere
+        if (!fitsFloat(p.box)) {
+            entry.cls = OUTSIDE;
+            return;
+        }
         entry.box = toBox(p.box);
-        entry.cls = classOf(p);
+        entry.cls = std::int8_t(classOf(p));
     }
     void fileOne(NodeImpl *node, Entry &entry)
     {
@@ -105,7 +138,7 @@ struct SpatialIndex::Data {
         std::array<std::vector<Value>, CLASS_COUNT> values;
         outside.clear();
         for (auto &[node, entry] : entries) {
-            if (dirty.contains(node)) place(node, entry);
+            if (entry.dirty) place(node, entry);
             if (entry.cls == OUTSIDE)
                 outside.push_back(node);
             else if (entry.cls != UNFILED)
@@ -124,13 +157,14 @@ SpatialIndex::~SpatialIndex() = default;
 
 void SpatialIndex::markDirty(NodeImpl *node)
 {
-    d->dirty.insert(node);
-    d->entries.try_emplace(node);
+    Entry &entry = d->entries[node];
+    if (entry.dirty) return;
+    entry.dirty = true;
+    d->dirtyList.push_back(node);
 }
 
 void SpatialIndex::remove(NodeImpl *node)
 {
-    d->dirty.erase(node);
     auto it = d->entries.find(node);
     if (it == d->entries.end()) return;
     d->unfile(node, it->second);
@@ -139,20 +173,21 @@ void SpatialIndex::remove(NodeImpl *node)
 
 void SpatialIndex::flush()
 {
-    if (d->dirty.empty()) return;
-    if (d->dirty.size() * 4 > d->entries.size() && d->dirty.size() > 64) {
-        // Unfiled first, so the rebuild sees every entry's old class gone.
+    if (d->dirtyList.empty()) return;
+    if (d->dirtyList.size() * 4 > d->entries.size() && d->dirtyList.size() > 64) {
         for (auto &tree : d->trees) tree.clear();
-        for (auto &[node, entry] : d->entries) entry.cls = d->dirty.contains(node) ? UNFILED : entry.cls;
+        for (auto &[node, entry] : d->entries)
+            if (entry.dirty) entry.cls = UNFILED;
         d->rebuild();
     } else {
-        for (NodeImpl *node : d->dirty) {
-            Entry &entry = d->entries[node];
-            d->unfile(node, entry);
-            d->fileOne(node, entry);
+        for (NodeImpl *node : d->dirtyList) {
+            auto it = d->entries.find(node);
+            if (it == d->entries.end() || !it->second.dirty) continue; // removed, or filed already
+            d->unfile(node, it->second);
+            d->fileOne(node, it->second);
         }
     }
-    d->dirty.clear();
+    d->dirtyList.clear();
 }
 
 std::size_t SpatialIndex::size() const { return d->entries.size(); }
@@ -162,7 +197,7 @@ void SpatialIndex::clear()
     for (auto &tree : d->trees) tree.clear();
     d->outside.clear();
     d->entries.clear();
-    d->dirty.clear();
+    d->dirtyList.clear();
 }
 
 QRectF SpatialIndex::extent(double scale)
@@ -170,8 +205,8 @@ QRectF SpatialIndex::extent(double scale)
     flush();
     QRectF united;
     auto unite = [&](Box const &b, double grow) {
-        united |= QRectF(QPointF(b.min_corner().get<0>() - grow, b.min_corner().get<1>() - grow),
-                         QPointF(b.max_corner().get<0>() + grow, b.max_corner().get<1>() + grow));
+        united |= QRectF(QPointF(double(b.min_corner().get<0>()) - grow, double(b.min_corner().get<1>()) - grow),
+                         QPointF(double(b.max_corner().get<0>()) + grow, double(b.max_corner().get<1>()) + grow));
     };
     for (int k = 0; k < CLASS_COUNT; ++k) {
         Tree const &tree = d->trees[size_t(k)];
@@ -181,7 +216,8 @@ QRectF SpatialIndex::extent(double scale)
     for (NodeImpl *node : d->outside) {
         IndexedPlace const p = d->placeOf(node);
         double const grow = p.reachPixels / scale + p.reachPixelsOverScale / (scale * scale);
-        if (std::isfinite(grow)) unite(d->entries[node].box, grow);
+        QRectF const r = p.box.adjusted(-grow, -grow, grow, grow);
+        if (std::isfinite(grow) && hasUsableArea(r)) united |= r;
     }
     return united;
 }
@@ -194,7 +230,8 @@ void SpatialIndex::forEachCandidate(QRectF const &area, double scale, std::funct
         Tree const &tree = d->trees[size_t(k)];
         if (tree.empty()) continue;
         double const grow = growthOf(k, scale);
-        Box const query(Point(a.left() - grow, a.top() - grow), Point(a.right() + grow, a.bottom() + grow));
+        Box const query(Point(down(a.left() - grow), down(a.top() - grow)),
+                        Point(up(a.right() + grow), up(a.bottom() + grow)));
         for (auto it = tree.qbegin(bgi::intersects(query)); it != tree.qend(); ++it) visit(it->second);
     }
     for (NodeImpl *node : d->outside) visit(node);
