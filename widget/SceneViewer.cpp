@@ -8,6 +8,8 @@
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
+#include <algorithm>
+#include <cmath>
 #include <QScrollBar>
 
 namespace VOR2 {
@@ -19,6 +21,17 @@ QColor const MARQUEE_COLOR(106, 166, 255, 255);
 QRectF toView(ViewInfo const &v, GLOX::GLRect<double> const &sceneRect)
 {
     return GLOX::toQRectF(view::sceneToView(v, sceneRect));
+}
+
+// A scroll position in whole view pixels. Deep zooms put the scene's edges
+// beyond what an int holds, and Qt's slider arithmetic needs room beyond its
+// range: positions are kept within plus or minus 2^29 (NaN: 0), so a scroll
+// bar saturates instead of wrapping round.
+constexpr double SCROLL_LIMIT = 536870912.0;
+int scrollPosition(double pixels)
+{
+    if (!(pixels == pixels)) return 0;
+    return int(std::max(-SCROLL_LIMIT, std::min(SCROLL_LIMIT, std::trunc(pixels))));
 }
 } // namespace
 
@@ -177,8 +190,10 @@ void SceneViewer::adjustScrollBarRanges()
     GLOX::GLRect<double> const &m = v.margins;
     if (b.width() > 0 && b.height() > 0) b.adjust(-m.x / s, -m.y / s, m.width / s, m.height / s);
     QRectF u = b | m_scrollExtent;
-    int hMin = int(std::min(vis.x(), u.x()) * s), hMax = int(std::max(vis.right(), u.right()) * s - v.viewWidth);
-    int vMin = int(std::min(vis.y(), u.y()) * s), vMax = int(std::max(vis.bottom(), u.bottom()) * s - v.viewHeight);
+    int hMin = scrollPosition(std::min(vis.x(), u.x()) * s);
+    int hMax = scrollPosition(std::max(vis.right(), u.right()) * s - v.viewWidth);
+    int vMin = scrollPosition(std::min(vis.y(), u.y()) * s);
+    int vMax = scrollPosition(std::max(vis.bottom(), u.bottom()) * s - v.viewHeight);
 
     m_adjustingScrollBars = true;
     QScrollBar *h = horizontalScrollBar(), *vert = verticalScrollBar();
@@ -187,9 +202,9 @@ void SceneViewer::adjustScrollBarRanges()
     bool fitsY = whole.contains(b) || (b.top() >= vis.top() && b.bottom() <= vis.bottom());
     if (!h->isSliderDown() && fitsX) hMin = hMax = 0;
     if (!vert->isSliderDown() && fitsY) vMin = vMax = 0;
-    if (hMin < hMax) h->setValue(int(vis.x() * s));
+    if (hMin < hMax) h->setValue(scrollPosition(vis.x() * s));
     if (!h->isSliderDown() && (h->minimum() != hMin || h->maximum() != hMax)) h->setRange(hMin, hMax);
-    if (vMin < vMax) vert->setValue(int(vis.y() * s));
+    if (vMin < vMax) vert->setValue(scrollPosition(vis.y() * s));
     if (!vert->isSliderDown() && (vert->minimum() != vMin || vert->maximum() != vMax)) vert->setRange(vMin, vMax);
     m_adjustingScrollBars = false;
     h->setPageStep(std::max(int(v.viewWidth) - 20, 10));

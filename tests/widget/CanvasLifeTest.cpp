@@ -147,3 +147,25 @@ TEST_F(ScrollingCanvas, RendersAndInputShareTheCanvasViewKey)
     ASSERT_EQ(scene->getPrivate()->getHoveredNode(), node) << "input asked the node where it is";
     EXPECT_EQ(node.getImpl()->viewCacheCount(), afterRendering) << "no second set of caches for the one view";
 }
+
+TEST_F(ScrollingCanvas, ADeepZoomSaturatesTheScrollBarsInsteadOfWrappingRound)
+{
+    // 1000 units at scale 1e7 are 1e10 pixels: more than an int holds.
+    canvas.setScaleAroundScenePoint(1e7, {500, 500});
+    ASSERT_TRUE(HostRuntime::loop().runUntil(
+        [&] { return canvas.getSceneServer().rendering().view.scale == 1e7; }, 5000ms));
+    HostRuntime::loop().runUntilIdle();
+    auto check = [&](QScrollBar *bar) {
+        int const limit = 1 << 29;
+        EXPECT_GE(bar->minimum(), -limit);
+        EXPECT_LE(bar->maximum(), limit);
+        EXPECT_LE(bar->minimum(), bar->value());
+        EXPECT_LE(bar->value(), bar->maximum());
+        EXPECT_LT(bar->minimum(), bar->maximum()) << "there is still somewhere to scroll";
+    };
+    HostRuntime::bridge().runOnGui([&] {
+        check(input.widget()->horizontalScrollBar());
+        check(input.widget()->verticalScrollBar());
+        input.widget()->repaint(); // Qt's own slider arithmetic runs on these ranges
+    }, true);
+}
