@@ -18,8 +18,15 @@ IndexedPlace ScenePrivate::indexedPlaceOf(NodeImpl *node)
     // Covering nothing (at any scale: emptiness does not follow the zoom),
     // the item still answers a bounding rectangle of its own, -1 in every
     // field, and Qt's tests meet it: so does the index.
-    QRectF const itemRect = item->boundingRect();
-    if (itemRect == QRectF(-1, -1, -1, -1)) return {item->sceneTransform().mapRect(itemRect.normalized()), 0.0, 0.0};
+    // Geometry with an area is inside the drawn bounds, which then have one
+    // too: only a node without such geometry needs Qt's rectangle (which
+    // computes the bounds at the current scale) to tell.
+    QRectF const geometry = GLOX::toQRectF(node->getBounds().boundingRect());
+    if (!(geometry.width() > 0 && geometry.height() > 0)) {
+        QRectF const itemRect = item->boundingRect();
+        if (itemRect == QRectF(-1, -1, -1, -1))
+            return {item->sceneTransform().mapRect(itemRect.normalized()), 0.0, 0.0};
+    }
     IndexExtent const e = sceneIndexExtent(node);
     double const g = e.reachSceneUnits;
     return {e.local.adjusted(-g, -g, g, g), e.reachPixels, e.reachPixelsOverScale};
