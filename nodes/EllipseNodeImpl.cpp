@@ -1,5 +1,7 @@
 #include "nodes/EllipseNodeImpl.h"
 
+#include <Effect>
+
 #include "nodes/MaskStyle.h"
 #include "nodes/OutlineStroker.h"
 #include "nodes/StylePainter.h"
@@ -44,6 +46,12 @@ void EllipseNodeImpl::paintMask(QPainter *painter, double scale, GLOX::GLRect<do
 {
     applyMaskStyle(painter, getDrawStyle(), scale);
     painter->drawEllipse(rect());
+}
+
+void EllipseNodeImpl::renderEffect(Effect *effect, QPainter *painter, QStyleOptionGraphicsItem const *option,
+                                   QWidget *widget)
+{
+    if (!effect->renderEffectEllipse(this, painter, option, widget)) effect->renderEffectGeneric(this, painter, option, widget);
 }
 
 } // namespace VOR2

@@ -24,6 +24,9 @@ public:
     // united with its interior.
     Bounds computeStrokedOutline(double scale) override;
     void paintContents(QPainter *painter, QStyleOptionGraphicsItem const *option, QWidget *widget) override;
+    // The effect's renderEllipse method, else its generic one.
+    void renderEffect(Effect *effect, QPainter *painter, QStyleOptionGraphicsItem const *option,
+                      QWidget *widget) override;
     // The node drawn as in paintContents in opaque black, its stroke width
     // kept; antialiased only when the style asks.
     void paintMask(QPainter *painter, double scale, GLOX::GLRect<double> const &rect) override;

@@ -1,5 +1,7 @@
 #include "nodes/ImageNodeImpl.h"
 
+#include <Effect>
+
 #include <Image>
 
 #include "nodes/StylePainter.h"
@@ -125,6 +127,12 @@ void ImageNodeImpl::paintMask(QPainter *painter, double scale, GLOX::GLRect<doub
     painter->setViewTransformEnabled(viewOn);
     painter->setWorldMatrixEnabled(worldOn);
     painter->setCompositionMode(mode);
+}
+
+void ImageNodeImpl::renderEffect(Effect *effect, QPainter *painter, QStyleOptionGraphicsItem const *option,
+                                 QWidget *widget)
+{
+    if (!effect->renderEffectImage(this, painter, option, widget)) effect->renderEffectGeneric(this, painter, option, widget);
 }
 
 } // namespace VOR2

@@ -52,6 +52,9 @@ public:
     // for a null image.
     Bounds computeBounds() override;
     void paintContents(QPainter *painter, QStyleOptionGraphicsItem const *option, QWidget *widget) override;
+    // The effect's renderImage method, else its generic one.
+    void renderEffect(Effect *effect, QPainter *painter, QStyleOptionGraphicsItem const *option,
+                      QWidget *widget) override;
     // Opaque black wherever the image is opaque, keeping its alpha: the
     // image at its natural size at (0, 0), then black composed in.
     void paintMask(QPainter *painter, double scale, GLOX::GLRect<double> const &rect) override;

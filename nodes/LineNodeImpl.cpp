@@ -1,5 +1,7 @@
 #include "nodes/LineNodeImpl.h"
 
+#include <Effect>
+
 #include <GlobalViewerInfo>
 
 #include "nodes/OutlineStroker.h"
@@ -147,6 +149,12 @@ void LineNodeImpl::paintContents(QPainter *painter, QStyleOptionGraphicsItem con
     QLineF line(m_start - GLOX::toQPointF(m_startDecoration.getBackoffVector()),
                 m_end - GLOX::toQPointF(m_endDecoration.getBackoffVector()));
     painter->drawLines(&line, 1);
+}
+
+void LineNodeImpl::renderEffect(Effect *effect, QPainter *painter, QStyleOptionGraphicsItem const *option,
+                                QWidget *widget)
+{
+    if (!effect->renderEffectLine(this, painter, option, widget)) effect->renderEffectGeneric(this, painter, option, widget);
 }
 
 } // namespace VOR2

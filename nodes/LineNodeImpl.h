@@ -59,6 +59,9 @@ public:
     using TypedNodeImpl<QGraphicsItem>::contains;
     // The segment, each end drawn short by its decoration's backoff.
     void paintContents(QPainter *painter, QStyleOptionGraphicsItem const *option, QWidget *widget) override;
+    // The effect's renderLine method, else its generic one.
+    void renderEffect(Effect *effect, QPainter *painter, QStyleOptionGraphicsItem const *option,
+                      QWidget *widget) override;
 
 private:
     QPainterPath geometricPath() const;

@@ -1,5 +1,7 @@
 #include "nodes/RectNodeImpl.h"
 
+#include <Effect>
+
 #include "nodes/StrokeReach.h"
 #include "nodes/StylePainter.h"
 #include "values/UsableNumber.h"
@@ -41,6 +43,12 @@ void RectNodeImpl::paintContents(QPainter *painter, QStyleOptionGraphicsItem con
 {
     applyDrawStyle(painter, getDrawStyle(), paintScale(painter));
     painter->drawRects(&m_rect, 1);
+}
+
+void RectNodeImpl::renderEffect(Effect *effect, QPainter *painter, QStyleOptionGraphicsItem const *option,
+                                QWidget *widget)
+{
+    if (!effect->renderEffectRect(this, painter, option, widget)) effect->renderEffectGeneric(this, painter, option, widget);
 }
 
 } // namespace VOR2

@@ -26,6 +26,9 @@ public:
     // The rectangle grown by half the stroke width at `scale` on each side.
     Bounds computeStrokedOutline(double scale) override;
     void paintContents(QPainter *painter, QStyleOptionGraphicsItem const *option, QWidget *widget) override;
+    // The effect's renderRect method, else its generic one.
+    void renderEffect(Effect *effect, QPainter *painter, QStyleOptionGraphicsItem const *option,
+                      QWidget *widget) override;
 
 private:
     QRectF m_rect;

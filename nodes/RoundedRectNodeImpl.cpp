@@ -1,5 +1,7 @@
 #include "nodes/RoundedRectNodeImpl.h"
 
+#include <Effect>
+
 #include <RoundedRect>
 
 #include "nodes/MaskStyle.h"
@@ -74,6 +76,12 @@ void RoundedRectNodeImpl::paintMask(QPainter *painter, double scale, GLOX::GLRec
 {
     applyMaskStyle(painter, getDrawStyle(), scale);
     draw(painter);
+}
+
+void RoundedRectNodeImpl::renderEffect(Effect *effect, QPainter *painter, QStyleOptionGraphicsItem const *option,
+                                       QWidget *widget)
+{
+    if (!effect->renderEffectRoundedRect(this, painter, option, widget)) effect->renderEffectGeneric(this, painter, option, widget);
 }
 
 } // namespace VOR2

@@ -31,6 +31,9 @@ public:
     // cap), united with the interior.
     Bounds computeStrokedOutline(double scale) override;
     void paintContents(QPainter *painter, QStyleOptionGraphicsItem const *option, QWidget *widget) override;
+    // The effect's renderRoundedRect method, else its generic one.
+    void renderEffect(Effect *effect, QPainter *painter, QStyleOptionGraphicsItem const *option,
+                      QWidget *widget) override;
     // The node drawn as in paintContents in opaque black, its stroke width
     // kept; antialiased only when the style asks.
     void paintMask(QPainter *painter, double scale, GLOX::GLRect<double> const &rect) override;

@@ -1,5 +1,7 @@
 #include "nodes/ShapeNodeImpl.h"
 
+#include <Effect>
+
 #include "nodes/OutlineStroker.h"
 #include "nodes/StylePainter.h"
 #include "nodes/StrokeReach.h"
@@ -42,6 +44,12 @@ void ShapeNodeImpl::paintContents(QPainter *painter, QStyleOptionGraphicsItem co
     if (m_shape.isEmpty()) return;
     applyDrawStyle(painter, getDrawStyle(), paintScale(painter));
     painter->drawPath(m_shape.getPath());
+}
+
+void ShapeNodeImpl::renderEffect(Effect *effect, QPainter *painter, QStyleOptionGraphicsItem const *option,
+                                 QWidget *widget)
+{
+    if (!effect->renderEffectShape(this, painter, option, widget)) effect->renderEffectGeneric(this, painter, option, widget);
 }
 
 } // namespace VOR2

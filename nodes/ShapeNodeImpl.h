@@ -30,6 +30,9 @@ public:
     Bounds computeStrokedOutline(double scale) override;
     // Nothing at all for an empty shape: not even the painter is touched.
     void paintContents(QPainter *painter, QStyleOptionGraphicsItem const *option, QWidget *widget) override;
+    // The effect's renderShape method, else its generic one.
+    void renderEffect(Effect *effect, QPainter *painter, QStyleOptionGraphicsItem const *option,
+                      QWidget *widget) override;
 
 private:
     GLOX::Shape m_shape;

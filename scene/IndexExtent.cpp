@@ -1,5 +1,6 @@
 #include "scene/IndexExtent.h"
 
+#include "effects/NodeEffectsImpl.h"
 #include "scene/NodeImpl.h"
 #include "values/UsableNumber.h"
 
@@ -16,9 +17,24 @@ IndexExtent NodeImpl::getIndexExtent()
     return extent;
 }
 
+namespace {
+// The node's own extent, widened by the reach of its effects beyond its
+// stroked outline, which the extent already covers.
+IndexExtent extentWithEffects(NodeImpl *node)
+{
+    IndexExtent extent = node->getIndexExtent();
+    if (NodeEffectsImpl const *effects = node->getEffectsImpl()) {
+        LodReach const reach = effects->reachBound();
+        extent.reachSceneUnits += reach.sceneUnits;
+        extent.reachPixels += reach.pixels;
+    }
+    return extent;
+}
+} // namespace
+
 IndexExtent sceneIndexExtent(NodeImpl *node)
 {
-    IndexExtent const local = node->getIndexExtent();
+    IndexExtent const local = extentWithEffects(node);
     if (local.isEmpty()) return local;
     QTransform const t = node->getGraphicsItem()->sceneTransform();
     IndexExtent scene;

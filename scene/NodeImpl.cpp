@@ -6,6 +6,8 @@
 #include <GlobalViewerInfo>
 #include <WeakRef>
 
+#include "effects/NodeEffectsImpl.h"
+#include "effects/NodeEffectsTable.h"
 #include "scene/CountRecord.h"
 #include "scene/GraphicsItemCasterTable.h"
 #include "scene/NodeCursorTable.h"
@@ -292,8 +294,9 @@ Bounds NodeImpl::computeStrokedOutline(double) { return getBounds(); }
 
 Bounds NodeImpl::computeMaximumBounds(double scale)
 {
-    // Effects widen this rectangle once nodes carry them.
-    return Bounds(getCachedStrokedOutline(scale).boundingRect());
+    Bounds bounds = getCachedStrokedOutline(scale);
+    if (NodeEffectsImpl *effects = getEffectsImpl()) bounds = effects->computeEffectsMaximumBounds(bounds, scale);
+    return Bounds(bounds.boundingRect());
 }
 
 Bounds NodeImpl::computeHitBounds(double scale) { return getCachedStrokedOutline(scale); }
@@ -343,7 +346,7 @@ void NodeImpl::paintMask(QPainter *painter, double scale, GLOX::GLRect<double> c
 
 // --------------------------------------------------------- Qt item changes
 
-void NodeImpl::itemChangeHook(QGraphicsItem::GraphicsItemChange change, QVariant const &)
+void NodeImpl::itemChangeHook(QGraphicsItem::GraphicsItemChange change, QVariant const &value)
 {
     switch (change) {
     case QGraphicsItem::ItemParentHasChanged:
@@ -354,9 +357,7 @@ void NodeImpl::itemChangeHook(QGraphicsItem::GraphicsItemChange change, QVariant
         if (!getGraphicsItem()->parentItem()) stampSiblingOrder(); // a new top-level item of its scene
         break;
     case QGraphicsItem::ItemChildAddedChange: layoutContents(); break;
-    // A selected node of a scene that uses node selection shows the scene's
-    // selection effect; that arrives with node effects.
-    case QGraphicsItem::ItemSelectedHasChanged: break;
+    case QGraphicsItem::ItemSelectedHasChanged: onSelectedHasChanged(value.toBool()); break;
     default: break;
     }
 }
@@ -401,6 +402,10 @@ void NodeImpl::releaseForSceneDeath()
 
 void NodeImpl::releaseTables()
 {
+    if (m_hasEffects) {
+        m_hasEffects = false;
+        NodeEffectsTable::instance().nodeDestroyed(this);
+    }
     m_viewCache.clear();
     clearBehavior();
     NodeCursorTable::instance().remove(this);

@@ -37,8 +37,10 @@ class QWidget;
 
 namespace VOR2 {
 
+class Effect;
 class FocusEvent;
 class KeyEvent;
+class NodeEffectsImpl;
 class MouseEvent;
 class NodeUpdateHandler;
 class ScenePrivate;
@@ -189,6 +191,18 @@ public:
     // The default fills the cached stroked outline.
     virtual void paintMask(QPainter *painter, double scale, GLOX::GLRect<double> const &rect);
 
+    // --- Effects --------------------------------------------------------
+    // The node's effect list, or null when it never asked for one.
+    NodeEffectsImpl *getEffectsImpl() const;
+    // The node's effect list, made on first demand.
+    NodeEffectsImpl *obtainEffectsImpl();
+    // Paints `effect` on this node: each kind calls the effect's render
+    // method for its kind and falls back to renderEffectGeneric when that
+    // answers false. The default, for kinds the effect cannot tell apart,
+    // is renderEffectGeneric. Called by the effect list while painting.
+    virtual void renderEffect(Effect *effect, QPainter *painter, QStyleOptionGraphicsItem const *option,
+                              QWidget *widget);
+
     // --- Qt item changes ------------------------------------------------
     // Called from QGraphicsItem::itemChange before Qt's own handling; it
     // cannot alter the change. The default handles the three changes a
@@ -227,8 +241,12 @@ private:
     // The links destroy() and releaseForSceneDeath() both cut last.
     void releaseTables();
     void onParentHasChanged();
+    // Shows or hides the scene's selection effect on this node.
+    void onSelectedHasChanged(bool selected);
     void stampSiblingOrder();
     bool usesOffscreenImage() const;
+    // The content, then the effects on top.
+    void paintContentsAndEffects(QPainter *painter, QStyleOptionGraphicsItem const *option, QWidget *widget);
     // Paints the node into a new offscreen image for the current view.
     void drawOffscreenImage(OffscreenLayout const &layout, double lod, QRectF const &bounds,
                             QStyleOptionGraphicsItem const *option);
@@ -254,6 +272,8 @@ private:
     QRectF m_itemRect;
     std::uint64_t m_siblingStamp = 0;
     bool m_updateHandlerOverridden = false;
+    // Whether NodeEffectsTable holds a list for this node.
+    bool m_hasEffects = false;
     NodeUpdateHandler *m_updateHandler = nullptr;
     GLOX::Holder<Node::CustomHitTestFunctor> m_customHitTest;
 };

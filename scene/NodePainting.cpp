@@ -3,6 +3,7 @@
 
 #include <Diagnostics>
 
+#include "effects/NodeEffectsImpl.h"
 #include "nodes/StylePainter.h"
 #include "scene/ImageExtent.h"
 #include "scene/NodeImpl.h"
@@ -43,14 +44,24 @@ void setUpBorderedPainter(QPainter &painter, QRectF const &bounds, double lod, b
 
 bool NodeImpl::usesOffscreenImage() const
 {
-    // Nodes with costly effects take this path too, once they carry effects.
-    return m_cacheType != CacheType::None;
+    if (m_cacheType != CacheType::None) return true;
+    // Costly effects are drawn once into the image; a node with the focus
+    // (text being edited) paints directly, so that its caret shows.
+    NodeEffectsImpl const *effects = getEffectsImpl();
+    return effects && effects->hasEffects() && effects->isIntensiveProcess() && !getGraphicsItem()->hasFocus();
+}
+
+void NodeImpl::paintContentsAndEffects(QPainter *painter, QStyleOptionGraphicsItem const *option, QWidget *widget)
+{
+    paintContents(painter, option, widget);
+    NodeEffectsImpl *effects = getEffectsImpl();
+    if (effects && effects->hasEffects()) effects->draw(painter, option, widget);
 }
 
 void NodeImpl::paintNode(QPainter *painter, QStyleOptionGraphicsItem const *option, QWidget *widget)
 {
     if (!usesOffscreenImage()) {
-        paintContents(painter, option, widget);
+        paintContentsAndEffects(painter, option, widget);
         return;
     }
     double lod = paintScale(painter);
@@ -81,7 +92,7 @@ void NodeImpl::paintNode(QPainter *painter, QStyleOptionGraphicsItem const *opti
     if (OffscreenPixmap const *image = fitting())
         layout.draw(*painter, image->image());
     else
-        paintContents(painter, option, widget);
+        paintContentsAndEffects(painter, option, widget);
 }
 
 void NodeImpl::drawOffscreenImage(OffscreenLayout const &layout, double lod, QRectF const &bounds,
@@ -97,7 +108,7 @@ void NodeImpl::drawOffscreenImage(OffscreenLayout const &layout, double lod, QRe
         painter.setWorldTransform(layout.toImage);
         QStyleOptionGraphicsItem imageOption(*option);
         imageOption.exposedRect = bounds;
-        paintContents(&painter, &imageOption, nullptr);
+        paintContentsAndEffects(&painter, &imageOption, nullptr);
     }
     currentViewCache().offscreen = std::make_unique<OffscreenPixmap>(std::move(image), lod, layout.phase);
 }
@@ -163,7 +174,7 @@ QImage NodeImpl::renderToImage(CacheType type, double scale)
     QStyleOptionGraphicsItem option;
     option.rect = GLOX::toQRectF(getBounds().boundingRect()).toRect();
     option.exposedRect = rect;
-    paintContents(&painter, &option, nullptr);
+    paintContentsAndEffects(&painter, &option, nullptr);
     if (type == CacheType::ChildrenTree) paintChildren(&painter, &option, nullptr);
     return image;
 }

@@ -1,0 +1,63 @@
+#include <Effect>
+
+#include "scene/NodeImpl.h"
+
+namespace VOR2 {
+
+Effect::Effect(Effect const &other)
+    : GLOX::ReferencedTemplate<unsigned int>(other),
+      propertyChangedEmitter(other.propertyChangedEmitter.sendMode()),
+      m_outlineType(other.m_outlineType),
+      m_renderQuality(other.m_renderQuality),
+      m_enabled(other.m_enabled),
+      m_isInnerEffect(other.m_isInnerEffect),
+      m_scaleFunction(other.m_scaleFunction)
+{
+}
+
+Effect &Effect::operator=(Effect const &other)
+{
+    m_outlineType = other.m_outlineType;
+    m_renderQuality = other.m_renderQuality;
+    m_enabled = other.m_enabled;
+    m_isInnerEffect = other.m_isInnerEffect;
+    m_scaleFunction = other.m_scaleFunction;
+    return *this;
+}
+
+void Effect::renderEffectGeneric(NodeImpl *, QPainter *, QStyleOptionGraphicsItem const *, QWidget *) {}
+
+#define VOR2_TYPED_RENDER(Method, Impl)                                                                            \
+    bool Effect::Method(Impl *, QPainter *, QStyleOptionGraphicsItem const *, QWidget *) { return false; }
+VOR2_TYPED_RENDER(renderEffectRoundedRect, RoundedRectNodeImpl)
+VOR2_TYPED_RENDER(renderEffectRect, RectNodeImpl)
+VOR2_TYPED_RENDER(renderEffectLine, LineNodeImpl)
+VOR2_TYPED_RENDER(renderEffectText, TextNodeImpl)
+VOR2_TYPED_RENDER(renderEffectEllipse, EllipseNodeImpl)
+VOR2_TYPED_RENDER(renderEffectImage, ImageNodeImpl)
+VOR2_TYPED_RENDER(renderEffectCustom, CustomNodeImpl)
+VOR2_TYPED_RENDER(renderEffectShape, ShapeNodeImpl)
+VOR2_TYPED_RENDER(renderEffectOpenLinearPath, OpenLinearPathNodeImpl)
+VOR2_TYPED_RENDER(renderEffectClosedLinearPath, ClosedLinearPathNodeImpl)
+VOR2_TYPED_RENDER(renderEffectOpenCurvedPath, OpenCurvedPathNodeImpl)
+VOR2_TYPED_RENDER(renderEffectClosedCurvedPath, ClosedCurvedPathNodeImpl)
+VOR2_TYPED_RENDER(renderEffectComposite, CompositeNodeImpl)
+#undef VOR2_TYPED_RENDER
+
+char const *Effect::getFullyQualifiedTcosTypeName() const { return "VOR2.Effect"; }
+
+GLOX::StringID Effect::getEffectID() const { return GLOX::StringID(); }
+
+bool Effect::isIntensiveProcess() const { return false; }
+
+Bounds Effect::computeBounds(Bounds const &bounds, double) { return bounds; }
+
+LodReach Effect::reachBound() const { return LodReach(); }
+
+double Effect::getOpacity() const { return 1.0; }
+
+void Effect::setOpacity(double) {}
+
+void Effect::notifyPropertyChanged() { propertyChangedEmitter.sendWith(GLUV::SendDirect, GLUV::makeNotification()); }
+
+} // namespace VOR2

@@ -1,0 +1,99 @@
+#pragma once
+// NodeEffectsImpl: the list behind NodeEffects, owned by its node (see
+// NodeEffectsTable) and shared, counted, with every handle. The operations
+// are NodeEffects'; the rest is what the node calls:
+//   draw()                         after the node painted its content,
+//   computeEffectsMaximumBounds()  to widen the node's bounds,
+//   reachBound()                   to widen the node's index extent,
+//   onNodeInvalidated()            when the node dies.
+// Every change sets boundsDirty and reports a geometry change of the node
+// alone (its bounds and index entry are renewed, its old and new area
+// repainted). Host thread only.
+
+#include <Effect>
+
+#include "GLOX/ReferencedTemplate.h"
+#include "GLUV/Listener.h"
+
+#include <vector>
+
+namespace VOR2 {
+
+class NodeImpl;
+
+// Lets NodeEffects and the node hold the list through one counted pointer.
+class NodeEffectsImplBase : public GLOX::ReferencedTemplate<unsigned int> {
+public:
+    ~NodeEffectsImplBase() override = default;
+};
+
+class NodeEffectsImpl : public NodeEffectsImplBase, public GLUV::Listener {
+public:
+    // One binding: the list holds a count on the effect while it lasts.
+    struct NodeBoundEffect {
+        GLOX::StringID effectID;
+        double reserved = -1.0;
+        Effect *effect = nullptr;
+        int enabled = 1;
+    };
+
+    explicit NodeEffectsImpl(NodeImpl *node);
+    ~NodeEffectsImpl() override;
+
+    void add(Effect *effect);
+    void add(Effect *effect, GLOX::StringID const &id);
+    bool remove(GLOX::StringID const &id);
+    bool remove(Effect const *effect);
+    bool enable(GLOX::StringID const &id) { return setEnabled(id, true); }
+    bool enable(Effect const *effect) { return setEnabled(effect, true); }
+    bool disable(GLOX::StringID const &id) { return setEnabled(id, false); }
+    bool disable(Effect const *effect) { return setEnabled(effect, false); }
+    void enableAll() { setAllEnabled(true); }
+    void disableAll() { setAllEnabled(false); }
+    Effect *get(GLOX::StringID const &id) const;
+    void clear();
+    bool isIntensiveProcess() const { return m_intensiveProcessing; }
+
+    bool hasEffects() const { return !m_effects.empty(); }
+    std::vector<NodeBoundEffect *> const &bindings() const { return m_effects; }
+    // Paints every enabled binding whose effect has an opacity above 0, in
+    // order, with the painter's origin moved to the top-left of the node's
+    // bounds at the option's level of detail. Throws when the node is gone.
+    void draw(QPainter *painter, QStyleOptionGraphicsItem const *option, QWidget *widget);
+    // `bounds` united with what every binding, enabled or not, covers.
+    Bounds computeEffectsMaximumBounds(Bounds const &bounds, double levelOfDetail);
+    // The largest reach of any binding, enabled or not, part by part.
+    LodReach reachBound() const;
+    void checkValidNodeReference() const;
+    // The node is dying: releases every binding and forgets the node.
+    void onNodeInvalidated();
+
+    bool boundsDirty() const { return m_boundsDirty; }
+    Bounds const &cachedBounds() const { return m_cachedBounds; }
+
+protected:
+    void repaintNode();
+    void onEffectPropertyChanged(GLUV::Packet packet);
+    void updateIntensiveProcessingFlag();
+
+private:
+    bool setEnabled(GLOX::StringID const &id, bool on);
+    bool setEnabled(Effect const *effect, bool on);
+    void setAllEnabled(bool on);
+    NodeBoundEffect *find(GLOX::StringID const &id) const;
+    std::vector<NodeBoundEffect *> bindingsOf(Effect const *effect) const;
+    static void release(NodeBoundEffect *binding);
+
+    bool m_boundsDirty = true;
+    Bounds m_cachedBounds;
+    bool m_intensiveProcessing = false;
+    NodeImpl *m_node;
+    std::vector<NodeBoundEffect *> m_effects;
+};
+
+// Throw VOR2_InvalidEffectHandle for a null effect, VOR2_InvalidEffectID
+// for an empty id.
+void checkEffectHandle(Effect const *effect);
+void checkEffectID(GLOX::StringID const &id);
+
+} // namespace VOR2
