@@ -3,6 +3,8 @@
 
 #include <Behavior>
 #include <Diagnostics>
+#include <EffectStroke>
+#include <SelectionNonLinearLodScale>
 
 #include "scene/CountRecord.h"
 #include "scene/NodeEmitterTable.h"
@@ -28,8 +30,28 @@ CountRecord &nodeCount()
 }
 } // namespace
 
+namespace {
+// Pale blue, 8 wide outside the node, growing less than the zoom.
+EffectStroke *newSelectionEffect()
+{
+    auto *effect = new EffectStroke(Stroke(GLOX::Color(0.835, 0.898, 0.996, 0.8), 8.0, StrokeStyle::SolidLine,
+                                           StrokeCapStyle::FlatCap, StrokeJoinStyle::MiterJoin,
+                                           SelectionNonLinearLodScale::instance()),
+                                    Outer);
+    effect->setOutlineType(PlainBoundsOutline);
+    return effect;
+}
+} // namespace
+
+GLOX::StringID const &ScenePrivate::selectionEffectID()
+{
+    static GLOX::StringID const id("Selection");
+    return id;
+}
+
 ScenePrivate::ScenePrivate(Scene *scene)
-    : m_scene(scene), m_index(std::make_unique<SpatialIndex>(&indexedPlaceOf))
+    : m_scene(scene), m_index(std::make_unique<SpatialIndex>(&indexedPlaceOf)),
+      m_selectionEffect(newSelectionEffect())
 {
     setBackgroundBrush(QBrush(QColor(0, 0, 0, 0), Qt::SolidPattern));
     // Node bounds follow each view's scale, so Qt's index would be rebuilt

@@ -21,6 +21,7 @@
 
 #include <Background>
 #include <DrawStyle>
+#include <Effect>
 #include <EventHandler>
 #include <IToolStack>
 #include <Node>
@@ -32,6 +33,7 @@
 #include "GLOX/Containers.h"
 #include "GLOX/Cursor.h"
 #include "GLOX/GLRect.h"
+#include "GLOX/Holder.h"
 #include "GLUV/Emitter.h"
 #include "GLUV/Listener.h"
 #include "scene/NodeUpdateHandler.h"
@@ -132,6 +134,10 @@ public:
     void clearToolOverrideCursor();
     bool usesNodeSelection() const { return m_useNodeSelection; }
     void setUseNodeSelection(bool use) { m_useNodeSelection = use; }
+    // The stroke every selected node shows while the scene uses node
+    // selection: one effect shared by all of them.
+    Effect *getSelectionEffect() const { return m_selectionEffect.get(); }
+    static GLOX::StringID const &selectionEffectID();
 
     // --- Tools ----------------------------------------------------------
     void addTool(Tool *tool) override { m_toolStack.addTool(tool); }
@@ -236,6 +242,7 @@ private:
     bool m_toolOverrideCursorSet = false;
     GLOX::Cursor m_toolOverrideCursor;
     bool m_useNodeSelection = true;
+    GLOX::Holder<Effect> m_selectionEffect;
 };
 
 } // namespace VOR2

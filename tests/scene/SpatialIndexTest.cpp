@@ -5,6 +5,7 @@
 #include <ConstantInLodScale>
 #include <ConstantLodScale>
 #include <ConstantOutLodScale>
+#include <EffectStroke>
 #include <EllipseNode>
 #include <Error>
 #include <GlobalViewerInfo>
@@ -15,9 +16,11 @@
 #include <RoundedRectNode>
 #include <Scene>
 #include <SelectionNonLinearLodScale>
+#include <NodeEffects>
 #include <ShapeNode>
 #include <SplitLinearLodScale>
 
+#include "effects/NodeEffectsImpl.h"
 #include "scene/NodeImpl.h"
 #include "scene/IndexExtent.h"
 #include "scene/ScenePrivate.h"
@@ -104,6 +107,22 @@ public:
         n.setDrawStyle(DrawStyle(stroke(), Fill(GLOX::Color(0.5, 0.7, 0.9)), chance(0.5)));
         return n;
     }
+    // A stroke effect of random width, scale function and inset (an
+    // unknown inset too), or the scene's selection outline.
+    void effect(Node const &n)
+    {
+        if (chance(0.3)) {
+            n.setSelectable(true);
+            n.setSelected(!n.isSelected());
+            return;
+        }
+        Stroke s = stroke();
+        if (s.isNoStroke()) s = Stroke(GLOX::Color(1, 0, 0), 3.0);
+        GLOX::Holder<EffectStroke> e(new EffectStroke(s, StrokeInsetType(below(4))));
+        if (chance(0.2)) e->setOpacity(0.0);
+        n.getEffects().add(e.get(), chance(0.5) ? "a" : "b");
+        if (chance(0.2)) n.getEffects().disable(e.get());
+    }
     void transform(Node const &n)
     {
         if (chance(0.25)) n.rotateDegreesAroundPoint(uniform(-180, 180), {uniform(0, 400), uniform(0, 400)});
@@ -124,6 +143,7 @@ public:
             if (chance(0.05)) n.setOpacity(0.0);
             if (chance(0.1)) n.setClipsChildren(true);
             if (chance(0.15)) n.setZValue(double(below(3))); // ties among siblings
+            if (chance(0.25)) effect(n);
             m_nodes.push_back(n);
         }
     }
@@ -132,8 +152,14 @@ public:
     {
         for (int i = 0; i < 20; ++i) {
             Node n = m_nodes[size_t(below(int(m_nodes.size())))];
-            switch (below(5)) {
+            switch (below(6)) {
             case 0: transform(n); break;
+            case 5:
+                if (n.getEffects().getImpl()->hasEffects() && chance(0.4))
+                    n.getEffects().clear();
+                else
+                    effect(n);
+                break;
             case 1: n.setDrawStyle(DrawStyle(stroke(), Fill(), chance(0.5))); break;
             case 2: n.setVisible(!n.isVisible()); break;
             case 3: {
