@@ -117,6 +117,34 @@ void fillsRow(Scene &scene)
     picture.setSize(BOX, BOX * 0.75);
     scene.addNode(picture);
 }
+// Outlines inside, on and outside the edge of a rectangle, a star and a
+// circle, and a selected node showing the scene's selection outline.
+void effectsRow(Scene &scene)
+{
+    Fill pale(GLOX::Color(0.95, 0.9, 0.75));
+    Stroke thin(GLOX::Color(0.3, 0.3, 0.3), 1.0);
+    StrokeInsetType insets[] = {Inner, Center, Outer};
+    for (int i = 0; i < 3; ++i) {
+        GLOX::GLRect<double> r = cell(i, 4);
+        Node n = i == 1 ? Node(ShapeNode(star(r))) : i == 2 ? Node(EllipseNode(Ellipse(r))) : Node(RectNode(r));
+        add(scene, n, style(thin, pale));
+        GLOX::Holder<EffectStroke> outline(
+            new EffectStroke(Stroke(GLOX::Color(0.85, 0.2, 0.1, 0.8), 6.0, SolidLine, FlatCap, RoundJoin), insets[i]));
+        n.getEffects().add(outline.get());
+    }
+    // Two outlines on one node, in the order they were added.
+    RoundedRectNode twice(cell(3, 4), 10);
+    add(scene, twice, style(thin, pale));
+    GLOX::Holder<EffectStroke> inner(new EffectStroke(Stroke(GLOX::Color(0.1, 0.4, 0.9), 4.0), Inner));
+    GLOX::Holder<EffectStroke> outer(new EffectStroke(Stroke(GLOX::Color(0.1, 0.7, 0.3), 4.0), Outer));
+    twice.getEffects().add(inner.get(), "inner");
+    twice.getEffects().add(outer.get(), "outer");
+
+    RectNode selected(cell(4, 4));
+    add(scene, selected, style(thin, Fill(GLOX::Color(0.55, 0.7, 1.0))));
+    selected.setSelectable(true);
+    selected.setSelected(true);
+}
 } // namespace
 
 void buildGallery(Scene &scene)
@@ -126,6 +154,7 @@ void buildGallery(Scene &scene)
     strokeStylesRow(scene);
     scaleFunctionsRow(scene);
     fillsRow(scene);
+    effectsRow(scene);
 }
 
 QImage renderAtScale(Scene const &scene, double scale, int margin)
