@@ -1,8 +1,10 @@
 #include "Systems.h"
 
+#include <EffectStroke>
 #include <EllipseNode>
 #include <GlobalViewerInfo>
 #include <LineNode>
+#include <NodeEffects>
 #include <RectNode>
 #include <RoundedRectNode>
 
@@ -17,7 +19,43 @@
 
 namespace bench {
 
+void paintOutline(QPainter &painter, QRectF const &rect)
+{
+    QPen pen(outlineColor(), OUTLINE_WIDTH);
+    painter.setPen(pen);
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRect(rect);
+}
+
 namespace {
+
+// W1S's outline: one effect for every node, as a scene's selection outline.
+VOR2::EffectStroke *sharedOutline()
+{
+    static VOR2::EffectStroke *outline = [] {
+        auto *e = new VOR2::EffectStroke(
+            VOR2::Stroke(GLOX::fromQColor(outlineColor()), OUTLINE_WIDTH), VOR2::Center);
+        e->ref(); // for the whole run
+        return e;
+    }();
+    return outline;
+}
+
+// A rectangle item that outlines itself as W1S asks.
+class OutlinedRectItem : public QGraphicsRectItem {
+public:
+    using QGraphicsRectItem::QGraphicsRectItem;
+    QRectF boundingRect() const override
+    {
+        double const m = OUTLINE_WIDTH / 2 + 1.0;
+        return QGraphicsRectItem::boundingRect().adjusted(-m, -m, m, m);
+    }
+    void paint(QPainter *painter, QStyleOptionGraphicsItem const *option, QWidget *widget) override
+    {
+        QGraphicsRectItem::paint(painter, option, widget);
+        paintOutline(*painter, rect());
+    }
+};
 
 VOR2::Node makeNode(Shape const &s)
 {
@@ -34,6 +72,7 @@ VOR2::Node makeNode(Shape const &s)
     VOR2::Stroke hairline(GLOX::Color(0.0, 0.0, 0.0), 0.0);
     VOR2::Fill fill = s.kind == ShapeKind::Line ? VOR2::Fill() : VOR2::Fill(GLOX::fromQColor(s.fill));
     node.setDrawStyle(VOR2::DrawStyle(hairline, fill));
+    if (s.outlined) node.getEffects().add(sharedOutline());
     return node;
 }
 
@@ -43,7 +82,7 @@ QGraphicsItem *makeItem(Shape const &s)
     QBrush fill(s.fill);
     switch (s.kind) {
     case ShapeKind::Rect: {
-        auto *item = new QGraphicsRectItem(s.rect);
+        auto *item = s.outlined ? new OutlinedRectItem(s.rect) : new QGraphicsRectItem(s.rect);
         item->setPen(hairline);
         item->setBrush(fill);
         return item;
@@ -135,6 +174,10 @@ void paintShapesDirectly(QPainter &painter, std::vector<Shape> const &list, QRec
         case ShapeKind::Rect:
             painter.setBrush(s.fill);
             painter.drawRect(s.rect);
+            if (s.outlined) {
+                paintOutline(painter, s.rect);
+                painter.setPen(QPen(Qt::black, 0));
+            }
             break;
         case ShapeKind::Ellipse:
             painter.setBrush(s.fill);

@@ -43,6 +43,9 @@ struct BuiltScene {
     void teardown();
 };
 
+// Draws W1S's outline on the edge of `rect`, leaving its pen and brush.
+void paintOutline(QPainter &painter, QRectF const &rect);
+
 // Paints the shapes that intersect `source` (scene units) with QPainter:
 // the painter is already transformed from scene to device.
 void paintShapesDirectly(QPainter &painter, std::vector<Shape> const &list, QRectF const &source, double scale);

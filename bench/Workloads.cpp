@@ -17,20 +17,31 @@ double uniform(std::mt19937 &g, double lo, double hi) { return lo + (hi - lo) * 
 
 std::vector<Shape> generate(Workload w, int n)
 {
-    std::mt19937 g(SEED + unsigned(w));
+    // W1S draws W1's list.
+    std::mt19937 g(SEED + unsigned(w == Workload::W1S ? Workload::W1 : w));
     std::vector<Shape> out;
     out.reserve(size_t(n));
     for (int i = 0; i < n; ++i) {
         double wd = uniform(g, 10, 60), ht = uniform(g, 10, 60);
         double x = uniform(g, 0, SCENE_SIZE - wd), y = uniform(g, 0, SCENE_SIZE - ht);
-        ShapeKind kind = w == Workload::W1 ? ShapeKind::Rect : ShapeKind(i % 4);
-        out.push_back({kind, QRectF(x, y, wd, ht), PALETTE[g() % 8]});
+        ShapeKind kind = w == Workload::W2 ? ShapeKind(i % 4) : ShapeKind::Rect;
+        out.push_back({kind, QRectF(x, y, wd, ht), PALETTE[g() % 8], w == Workload::W1S});
     }
     return out;
 }
 } // namespace
 
-std::string workloadName(Workload w) { return w == Workload::W1 ? "W1" : "W2"; }
+std::string workloadName(Workload w)
+{
+    switch (w) {
+    case Workload::W1: return "W1";
+    case Workload::W2: return "W2";
+    case Workload::W1S: return "W1S";
+    }
+    return "?";
+}
+
+QColor outlineColor() { return QColor(255, 0, 0, 191); }
 
 std::vector<Shape> const &shapes(Workload w, int n)
 {
@@ -56,7 +67,7 @@ std::vector<QPointF> probePoints(Workload w, int n, int count)
 
 QRectF paintedRect(Shape const &s, double scale)
 {
-    double m = 1.0 / scale;
+    double m = 1.0 / scale + (s.outlined ? OUTLINE_WIDTH / 2 + 0.5 / scale : 0.0);
     return s.rect.adjusted(-m, -m, m, m);
 }
 

@@ -1,12 +1,24 @@
 #include <Effect>
 
+#include "effects/EffectBoundLists.h"
+#include "effects/NodeEffectsImpl.h"
 #include "scene/NodeImpl.h"
 
+#include <vector>
+
 namespace VOR2 {
+
+Effect::Effect() : m_boundLists(std::make_unique<BoundLists>()) {}
+
+Effect::~Effect()
+{
+    for (NodeEffectsImpl *list : m_boundLists->lists) list->effectDestroyed(this);
+}
 
 Effect::Effect(Effect const &other)
     : GLOX::ReferencedTemplate<unsigned int>(other),
       propertyChangedEmitter(other.propertyChangedEmitter.sendMode()),
+      m_boundLists(std::make_unique<BoundLists>()),
       m_outlineType(other.m_outlineType),
       m_renderQuality(other.m_renderQuality),
       m_enabled(other.m_enabled),
@@ -58,6 +70,14 @@ double Effect::getOpacity() const { return 1.0; }
 
 void Effect::setOpacity(double) {}
 
-void Effect::notifyPropertyChanged() { propertyChangedEmitter.sendWith(GLUV::SendDirect, GLUV::makeNotification()); }
+void Effect::notifyPropertyChanged()
+{
+    GLUV::Packet const packet = GLUV::makeNotification();
+    // A list told of the change may run code that ends another list.
+    std::vector<NodeEffectsImpl *> const lists(m_boundLists->lists.begin(), m_boundLists->lists.end());
+    for (NodeEffectsImpl *list : lists)
+        if (m_boundLists->lists.contains(list)) list->onEffectPropertyChanged(packet);
+    propertyChangedEmitter.sendWith(GLUV::SendDirect, packet);
+}
 
 } // namespace VOR2

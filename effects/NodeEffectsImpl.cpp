@@ -2,7 +2,7 @@
 
 #include <Error>
 
-#include "GLUV/Thread.h"
+#include "effects/EffectBoundLists.h"
 #include "nodes/StylePainter.h"
 #include "scene/NodeImpl.h"
 
@@ -26,7 +26,7 @@ NodeEffectsImpl::NodeEffectsImpl(NodeImpl *node) : m_node(node) {}
 
 NodeEffectsImpl::~NodeEffectsImpl()
 {
-    disconnectAll();
+    stopListening();
     // Empty once the node has died, and the node holds a count while it
     // lives; released here all the same, so that no path leaks an effect.
     for (NodeBoundEffect *binding : m_effects) release(binding);
@@ -66,6 +66,22 @@ void NodeEffectsImpl::repaintNode()
 
 void NodeEffectsImpl::onEffectPropertyChanged(GLUV::Packet) { repaintNode(); }
 
+void NodeEffectsImpl::listenTo(Effect *effect)
+{
+    if (effect->m_boundLists->lists.insert(this).second) m_heard.push_back(effect);
+}
+
+void NodeEffectsImpl::stopListening()
+{
+    for (Effect *effect : m_heard) effect->m_boundLists->lists.erase(this);
+    m_heard.clear();
+}
+
+void NodeEffectsImpl::effectDestroyed(Effect const *effect)
+{
+    m_heard.erase(std::remove(m_heard.begin(), m_heard.end(), effect), m_heard.end());
+}
+
 void NodeEffectsImpl::add(Effect *effect)
 {
     checkValidNodeReference();
@@ -88,8 +104,7 @@ void NodeEffectsImpl::add(Effect *effect, GLOX::StringID const &id)
     binding->effectID = id;
     binding->effect = effect;
     m_effects.push_back(binding);
-    effect->propertyChangedEmitter.connect(this, &NodeEffectsImpl::onEffectPropertyChanged,
-                                           GLUV::Thread::getCurrentThread());
+    listenTo(effect);
     repaintNode();
     updateIntensiveProcessingFlag();
 }
@@ -181,6 +196,7 @@ void NodeEffectsImpl::onNodeInvalidated()
     }
     m_boundsDirty = true;
     m_node = nullptr;
+    stopListening();
 }
 
 void NodeEffectsImpl::updateIntensiveProcessingFlag()

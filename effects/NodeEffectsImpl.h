@@ -8,12 +8,18 @@
 //   onNodeInvalidated()            when the node dies.
 // Every change sets boundsDirty and reports a geometry change of the node
 // alone (its bounds and index entry are renewed, its old and new area
-// repainted). Host thread only.
+// repainted).
+//
+// Change notifications: the first binding of an effect registers the list
+// with it (Effect::BoundLists), and the list stays registered until its
+// node dies, also after the binding is removed: a removed effect that
+// lives on still repaints the node, deliberately. A registration instead
+// of a signal connection per list keeps an effect shared by many nodes
+// cheap to bind and to unbind. Host thread only.
 
 #include <Effect>
 
 #include "GLOX/ReferencedTemplate.h"
-#include "GLUV/Listener.h"
 
 #include <vector>
 
@@ -27,7 +33,7 @@ public:
     ~NodeEffectsImplBase() override = default;
 };
 
-class NodeEffectsImpl : public NodeEffectsImplBase, public GLUV::Listener {
+class NodeEffectsImpl : public NodeEffectsImplBase {
 public:
     // One binding: the list holds a count on the effect while it lasts.
     struct NodeBoundEffect {
@@ -71,9 +77,14 @@ public:
     bool boundsDirty() const { return m_boundsDirty; }
     Bounds const &cachedBounds() const { return m_cachedBounds; }
 
+    // A registered effect changed: the node is repainted and its bounds
+    // renewed.
+    void onEffectPropertyChanged(GLUV::Packet packet);
+    // A registered effect is being destroyed: forget it.
+    void effectDestroyed(Effect const *effect);
+
 protected:
     void repaintNode();
-    void onEffectPropertyChanged(GLUV::Packet packet);
     void updateIntensiveProcessingFlag();
 
 private:
@@ -83,12 +94,16 @@ private:
     NodeBoundEffect *find(GLOX::StringID const &id) const;
     std::vector<NodeBoundEffect *> bindingsOf(Effect const *effect) const;
     static void release(NodeBoundEffect *binding);
+    void listenTo(Effect *effect);
+    void stopListening();
 
     bool m_boundsDirty = true;
     Bounds m_cachedBounds;
     bool m_intensiveProcessing = false;
     NodeImpl *m_node;
     std::vector<NodeBoundEffect *> m_effects;
+    // The effects this list is registered with.
+    std::vector<Effect *> m_heard;
 };
 
 // Throw VOR2_InvalidEffectHandle for a null effect, VOR2_InvalidEffectID
