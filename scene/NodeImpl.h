@@ -244,9 +244,9 @@ private:
     GLOX::GList<GLOX::StringID> m_tags;
     Bounds m_boundsCache;
     bool m_offscreenDirty = true;
+    bool m_ownershipGuarded = false;
     mutable PendingSlot m_pendingSlot;
     mutable IndexSlot m_indexSlot;
-    bool m_ownershipGuarded = false;
     DrawStyle m_drawStyle;
     CacheType m_cacheType = CacheType::None;
     GLOX::Holder<Behavior> m_behavior;
