@@ -23,6 +23,7 @@
 #include "GLOX/ReferencedTemplate.h"
 #include "GLOX/StringID.h"
 #include "scene/IndexExtent.h"
+#include "scene/IndexSlot.h"
 #include "scene/LayoutContainer.h"
 #include "scene/LayoutItem.h"
 #include "scene/NodeViewCache.h"
@@ -227,6 +228,9 @@ public:
         std::uint32_t index = 0;
     };
     PendingSlot &pendingSlot() const { return m_pendingSlot; }
+    // Where this node stands in its scene's spatial index. Kept by
+    // SpatialIndex.
+    IndexSlot &indexSlot() const { return m_indexSlot; }
     // Whether a NodeOwnershipGuard is open on this node. Kept by the guard.
     bool &ownershipGuarded() { return m_ownershipGuarded; }
 
@@ -258,8 +262,9 @@ private:
     GLOX::GList<GLOX::StringID> m_tags;
     Bounds m_boundsCache;
     bool m_offscreenDirty = true;
-    mutable PendingSlot m_pendingSlot;
     bool m_ownershipGuarded = false;
+    mutable PendingSlot m_pendingSlot;
+    mutable IndexSlot m_indexSlot;
     DrawStyle m_drawStyle;
     CacheType m_cacheType = CacheType::None;
     GLOX::Holder<Behavior> m_behavior;

@@ -70,6 +70,8 @@ public:
     bool containsNode(NodeImpl const *node) const;
     GLOX::GList<NodeImpl *> getTopLevelNodeImpls() const;
     GLOX::GList<NodeImpl *> getStackedNodes() const override { return getTopLevelNodeImpls(); }
+    // Kept here, not in the shared table: every added node asks for it.
+    ZRange &zRange() const override { return m_zRange; }
 
     // --- Changes --------------------------------------------------------
     void nodeRepaintRequired(NodeImpl *node) override;
@@ -230,6 +232,7 @@ private:
     PendingChanges m_pendingChanges;
     PendingChanges m_delivered;
     std::unique_ptr<SpatialIndex> m_index;
+    mutable ZRange m_zRange;
     bool m_linearQueries = false;
     bool m_delivering = false;
     bool m_debugRepaintRegion = false;

@@ -1,8 +1,9 @@
 #include "scene/SpatialIndex.h"
 
+#include "scene/IndexSlot.h"
+#include "scene/NodeImpl.h"
 #include "values/UsableNumber.h"
 
-#include <absl/container/flat_hash_map.h>
 #include <boost/geometry.hpp>
 #include <boost/geometry/geometries/box.hpp>
 #include <boost/geometry/geometries/point.hpp>
@@ -81,70 +82,101 @@ bool fitsFloat(QRectF const &r)
     return std::fabs(r.left()) < FLOAT_RANGE && std::fabs(r.right()) < FLOAT_RANGE && std::fabs(r.top()) < FLOAT_RANGE &&
            std::fabs(r.bottom()) < FLOAT_RANGE;
 }
-Box toBox(QRectF const &r)
-{
-    return Box(Point(down(r.left()), down(r.top())), Point(up(r.right()), up(r.bottom())));
-}
 
-struct Entry {
-    Box box;
-    std::int8_t cls = UNFILED;
-    bool dirty = false; // in the dirty list, to be filed at the next flush
-};
+IndexSlot &slotOf(NodeImpl *node) { return node->indexSlot(); }
+
+Box boxOf(IndexSlot const &s) { return Box(Point(s.box[0], s.box[1]), Point(s.box[2], s.box[3])); }
+
+// Past this many dirty nodes, and a quarter of all, filing everything anew
+// in packed trees is quicker than one removal and insertion each.
+constexpr std::size_t FEW_DIRTY = 64;
 } // namespace
 
 struct SpatialIndex::Data {
     PlaceOf placeOf;
     std::array<Tree, CLASS_COUNT> trees;
     std::vector<NodeImpl *> outside;
-    absl::flat_hash_map<NodeImpl *, Entry> entries;
-    // Nodes marked since the last flush; a removed one stays here, and is
-    // looked up by key only, never through the pointer.
+    // Every node held; each knows its place here (IndexSlot::member).
+    std::vector<NodeImpl *> members;
+    // Nodes marked since the last flush, each knowing its place here
+    // (IndexSlot::dirtyAt). Unused while refileAll holds.
     std::vector<NodeImpl *> dirtyList;
+    // Everything is filed anew at the next flush: the trees are empty, a
+    // clean member waits under its kept box and class, a dirty one is
+    // placed again. So it starts: adding nodes to an index never queried
+    // costs an append each, and the first query packs the whole scene.
+    bool refileAll = true;
 
-    void unfile(NodeImpl *node, Entry &entry)
+    bool holds(NodeImpl *node, IndexSlot const &s) const
     {
-        if (entry.cls == OUTSIDE)
+        return s.member < members.size() && members[s.member] == node;
+    }
+    void unfile(NodeImpl *node, IndexSlot &s)
+    {
+        if (s.cls == OUTSIDE)
             outside.erase(std::find(outside.begin(), outside.end(), node));
-        else if (entry.cls != UNFILED)
-            trees[size_t(entry.cls)].remove(Value(entry.box, node));
-        entry.cls = UNFILED;
+        else if (s.cls != UNFILED)
+            trees[size_t(s.cls)].remove(Value(boxOf(s), node));
+        s.cls = UNFILED;
     }
     // Where the node goes now; UNFILED when it is nowhere.
-    void place(NodeImpl *node, Entry &entry)
+    void place(NodeImpl *node, IndexSlot &s)
     {
-        entry.dirty = false;
+        s.dirty = false;
+        s.cls = UNFILED;
         IndexedPlace const p = placeOf(node);
         if (!(p.box.width() >= 0 && p.box.height() >= 0)) return; // nowhere
         if (!fitsFloat(p.box)) {
-            entry.cls = OUTSIDE;
+            s.cls = OUTSIDE;
             return;
         }
-        entry.box = toBox(p.box);
-        entry.cls = std::int8_t(classOf(p));
+        s.box[0] = down(p.box.left());
+        s.box[1] = down(p.box.top());
+        s.box[2] = up(p.box.right());
+        s.box[3] = up(p.box.bottom());
+        s.cls = std::int8_t(classOf(p));
     }
-    void fileOne(NodeImpl *node, Entry &entry)
+    void fileOne(NodeImpl *node, IndexSlot &s)
     {
-        place(node, entry);
-        if (entry.cls == OUTSIDE)
+        place(node, s);
+        if (s.cls == OUTSIDE)
             outside.push_back(node);
-        else if (entry.cls != UNFILED)
-            trees[size_t(entry.cls)].insert(Value(entry.box, node));
+        else if (s.cls != UNFILED)
+            trees[size_t(s.cls)].insert(Value(boxOf(s), node));
     }
-    // Files everything anew, each tree packed in one go: quicker than one
-    // insertion at a time when most nodes changed (a new scene).
+    // From now on every change waits for one refiling of everything.
+    void startRefileAll()
+    {
+        for (NodeImpl *node : dirtyList) slotOf(node).dirtyAt = IndexSlot::NONE;
+        dirtyList.clear();
+        for (auto &tree : trees) tree.clear();
+        outside.clear();
+        refileAll = true;
+    }
+    // Files everything anew, each tree packed in one go.
     void rebuild()
     {
         std::array<std::vector<Value>, CLASS_COUNT> values;
         outside.clear();
-        for (auto &[node, entry] : entries) {
-            if (entry.dirty) place(node, entry);
-            if (entry.cls == OUTSIDE)
+        for (NodeImpl *node : members) {
+            IndexSlot &s = slotOf(node);
+            if (s.dirty) place(node, s);
+            if (s.cls == OUTSIDE)
                 outside.push_back(node);
-            else if (entry.cls != UNFILED)
-                values[size_t(entry.cls)].emplace_back(entry.box, node);
+            else if (s.cls != UNFILED)
+                values[size_t(s.cls)].emplace_back(boxOf(s), node);
         }
-        for (int k = 0; k < CLASS_COUNT; ++k) trees[size_t(k)] = Tree(values[size_t(k)]);
+        for (int k = 0; k < CLASS_COUNT; ++k)
+            if (!values[size_t(k)].empty()) trees[size_t(k)] = Tree(values[size_t(k)]);
+        refileAll = false;
+    }
+    // Takes the entry at `at` out of `list`, the last taking its place.
+    static void takeOut(std::vector<NodeImpl *> &list, std::uint32_t at, std::uint32_t IndexSlot::*place)
+    {
+        NodeImpl *const last = list.back();
+        list[at] = last;
+        slotOf(last).*place = at;
+        list.pop_back();
     }
 };
 
@@ -157,47 +189,61 @@ SpatialIndex::~SpatialIndex() = default;
 
 void SpatialIndex::markDirty(NodeImpl *node)
 {
-    Entry &entry = d->entries[node];
-    if (entry.dirty) return;
-    entry.dirty = true;
+    IndexSlot &s = slotOf(node);
+    if (!d->holds(node, s)) {
+        s = IndexSlot(); // whatever another index left there is void
+        s.member = std::uint32_t(d->members.size());
+        d->members.push_back(node);
+    } else if (s.dirty) {
+        return;
+    }
+    s.dirty = true;
+    if (d->refileAll) return;
+    std::size_t const listed = d->dirtyList.size() + 1;
+    if (listed > FEW_DIRTY && listed * 4 > d->members.size()) {
+        d->startRefileAll();
+        return;
+    }
+    s.dirtyAt = std::uint32_t(d->dirtyList.size());
     d->dirtyList.push_back(node);
 }
 
 void SpatialIndex::remove(NodeImpl *node)
 {
-    auto it = d->entries.find(node);
-    if (it == d->entries.end()) return;
-    d->unfile(node, it->second);
-    d->entries.erase(it);
+    IndexSlot &s = slotOf(node);
+    if (!d->holds(node, s)) return;
+    if (!d->refileAll) d->unfile(node, s);
+    if (s.dirtyAt != IndexSlot::NONE) Data::takeOut(d->dirtyList, s.dirtyAt, &IndexSlot::dirtyAt);
+    Data::takeOut(d->members, s.member, &IndexSlot::member);
+    s = IndexSlot();
 }
 
 void SpatialIndex::flush()
 {
-    if (d->dirtyList.empty()) return;
-    if (d->dirtyList.size() * 4 > d->entries.size() && d->dirtyList.size() > 64) {
-        for (auto &tree : d->trees) tree.clear();
-        for (auto &[node, entry] : d->entries)
-            if (entry.dirty) entry.cls = UNFILED;
+    if (d->refileAll) {
         d->rebuild();
-    } else {
-        for (NodeImpl *node : d->dirtyList) {
-            auto it = d->entries.find(node);
-            if (it == d->entries.end() || !it->second.dirty) continue; // removed, or filed already
-            d->unfile(node, it->second);
-            d->fileOne(node, it->second);
-        }
+        return;
+    }
+    for (NodeImpl *node : d->dirtyList) {
+        IndexSlot &s = slotOf(node);
+        s.dirtyAt = IndexSlot::NONE;
+        d->unfile(node, s);
+        d->fileOne(node, s);
     }
     d->dirtyList.clear();
 }
 
-std::size_t SpatialIndex::size() const { return d->entries.size(); }
+std::size_t SpatialIndex::size() const { return d->members.size(); }
 
 void SpatialIndex::clear()
 {
+    // The members may be dead already: their slots are left as they are,
+    // and void, since no index lists them there any more.
     for (auto &tree : d->trees) tree.clear();
     d->outside.clear();
-    d->entries.clear();
+    d->members.clear();
     d->dirtyList.clear();
+    d->refileAll = true;
 }
 
 QRectF SpatialIndex::extent(double scale)

@@ -15,11 +15,16 @@
 //
 // Changes are marked (markDirty) and applied before the next query
 // (flush): a node that changes many times between two queries is filed
-// once. Candidates are a superset of the nodes whose bounding rectangle at
-// the given scale meets the area; the caller runs the exact test.
+// once. What the index keeps about a node lives in the node (IndexSlot), so
+// marking one costs no hashing, and until the first query, or once many
+// nodes changed, marking is a flag and an append: the next query files
+// everything anew, each tree packed in one go. Candidates are a superset of
+// the nodes whose bounding rectangle at the given scale meets the area; the
+// caller runs the exact test.
 //
-// Host thread only. Nodes are referred to by pointer; a node must be
-// removed (remove) before it dies.
+// Host thread only. Nodes are referred to by pointer; a node is in one
+// index at a time and must be removed (remove) before it dies or joins
+// another.
 
 #include <QRectF>
 #include <cstddef>

@@ -1,8 +1,9 @@
 #pragma once
 // ZOrderingContainer: what stacks a set of sibling nodes: a node for its
-// children, a scene for its top-level nodes. It holds no data; the range of
-// z values it has handed out lives in one process-wide table keyed by the
-// container (ZRange), so that plain nodes stay small.
+// children, a scene for its top-level nodes. A node holds no data; the range
+// of z values it has handed out lives in one process-wide table keyed by the
+// container (ZRange), so that plain nodes stay small. A scene, which stacks
+// every node added to it, keeps its range itself (zRange overridden).
 //
 // Every z write goes through QGraphicsItem::setZValue. The range only
 // grows: z values drift upward and are never renumbered. Host thread only.
@@ -25,7 +26,7 @@ public:
     virtual GLOX::GList<NodeImpl *> getStackedNodes() const = 0;
 
     // The range of this container, created at zero on first use.
-    ZRange &zRange() const;
+    virtual ZRange &zRange() const;
 
     void setZValue(NodeImpl *n, double z);
     void stepToTop(NodeImpl *n);

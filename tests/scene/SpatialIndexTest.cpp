@@ -287,21 +287,36 @@ TEST(SpatialIndex, RegionsDrawTheSamePixelsAsTheWalk)
     }
 }
 
+namespace {
+// Nodes outside any scene, for the index alone: it reads their places from
+// a table, and keeps its own bookkeeping in the nodes.
+std::vector<Node> looseNodes(int count)
+{
+    std::vector<Node> nodes;
+    for (int i = 0; i < count; ++i) nodes.push_back(RectNode(GLOX::GLRect<double>(0, 0, 1, 1)));
+    return nodes;
+}
+
+std::set<NodeImpl *> candidates(SpatialIndex &index, QRectF const &area, double scale)
+{
+    std::set<NodeImpl *> nodes;
+    index.forEachCandidate(area, scale, [&](NodeImpl *n) {
+        EXPECT_TRUE(nodes.insert(n).second) << "a node found twice";
+    });
+    return nodes;
+}
+} // namespace
+
 TEST(SpatialIndex, CandidatesAreFiledByReachAndFoundAtEveryScale)
 {
-    // Three nodes stood in by addresses; the index never looks at them.
-    NodeImpl *const near = reinterpret_cast<NodeImpl *>(0x10), *const wide = reinterpret_cast<NodeImpl *>(0x20),
-                    *const far = reinterpret_cast<NodeImpl *>(0x30);
+    std::vector<Node> const nodes = looseNodes(4);
+    NodeImpl *const near = nodes[0].getImpl(), *const wide = nodes[1].getImpl(), *const far = nodes[2].getImpl();
     std::map<NodeImpl *, IndexedPlace> places{{near, {QRectF(0, 0, 10, 10), 0.5}},
                                                {wide, {QRectF(200, 0, 10, 10), 40.0}},
                                                {far, {QRectF(1000, 1000, 10, 10), 1.0}}};
     SpatialIndex index([&](NodeImpl *node) { return places.at(node); });
     for (auto const &entry : places) index.markDirty(entry.first);
-    auto found = [&](QRectF const &area, double scale) {
-        std::set<NodeImpl *> nodes;
-        index.forEachCandidate(area, scale, [&](NodeImpl *n) { nodes.insert(n); });
-        return nodes;
-    };
+    auto found = [&](QRectF const &area, double scale) { return candidates(index, area, scale); };
     EXPECT_EQ(found(QRectF(150, 0, 10, 10), 1.0), (std::set<NodeImpl *>{wide}))
         << "40 pixels reach 40 units at scale 1: from 200 down to 160";
     EXPECT_EQ(found(QRectF(150, 0, 10, 10), 100.0), (std::set<NodeImpl *>{}))
@@ -309,7 +324,7 @@ TEST(SpatialIndex, CandidatesAreFiledByReachAndFoundAtEveryScale)
     EXPECT_EQ(found(QRectF(11, 0, 1, 1), 0.5), (std::set<NodeImpl *>{near})) << "half a pixel at scale 0.5";
 
     // A reach in pixels over the scale grows as the view zooms out.
-    NodeImpl *const band = reinterpret_cast<NodeImpl *>(0x40);
+    NodeImpl *const band = nodes[3].getImpl();
     places[band] = {QRectF(500, 0, 1, 1), 0.0, 3.0};
     index.markDirty(band);
     EXPECT_EQ(found(QRectF(420, 0, 1, 1), 0.2).count(band), 1u) << "3 / 0.04 = 75 units at scale 0.2";
@@ -326,4 +341,93 @@ TEST(SpatialIndex, CandidatesAreFiledByReachAndFoundAtEveryScale)
     index.markDirty(far);
     EXPECT_TRUE(found(QRectF(-1e9, -1e9, 2e9, 2e9), 1.0).count(far) == 0);
     EXPECT_EQ(index.size(), 2u) << "a node that is nowhere is still known";
+}
+
+TEST(SpatialIndex, NodesMoveBetweenIndexesAndOutliveAClearedOne)
+{
+    std::vector<Node> const nodes = looseNodes(3);
+    NodeImpl *const one = nodes[0].getImpl(), *const two = nodes[1].getImpl(), *const three = nodes[2].getImpl();
+    std::map<NodeImpl *, IndexedPlace> places{
+        {one, {QRectF(0, 0, 10, 10)}}, {two, {QRectF(20, 0, 10, 10)}}, {three, {QRectF(40, 0, 10, 10)}}};
+    auto placeOf = [&](NodeImpl *node) { return places.at(node); };
+    SpatialIndex a(placeOf), b(placeOf);
+    QRectF const all(-100, -100, 300, 300);
+    a.markDirty(one);
+    a.markDirty(two);
+    EXPECT_EQ(candidates(a, all, 1.0), (std::set<NodeImpl *>{one, two}));
+
+    a.remove(one);
+    b.markDirty(one);
+    EXPECT_EQ(candidates(a, all, 1.0), (std::set<NodeImpl *>{two}));
+    EXPECT_EQ(candidates(b, all, 1.0), (std::set<NodeImpl *>{one}));
+
+    // A cleared index lets its nodes go without looking at them; one that
+    // now holds another node in the same place must still take them back.
+    b.clear();
+    EXPECT_EQ(b.size(), 0u);
+    EXPECT_TRUE(candidates(b, all, 1.0).empty());
+    b.markDirty(three);
+    b.markDirty(one);
+    EXPECT_EQ(b.size(), 2u);
+    EXPECT_EQ(candidates(b, all, 1.0), (std::set<NodeImpl *>{one, three}));
+    b.remove(one);
+    b.remove(one); // twice: nothing more
+    EXPECT_EQ(candidates(b, all, 1.0), (std::set<NodeImpl *>{three}));
+    EXPECT_EQ(candidates(a, all, 1.0), (std::set<NodeImpl *>{two})) << "the other index is untouched";
+}
+
+TEST(SpatialIndex, FindsEveryNodeThroughAnyMixOfChangesRemovalsAndRefiling)
+{
+    // Bursts of a few changes go one node at a time; bursts of many file
+    // everything anew. After each, every node that meets a query must be
+    // among its candidates, and nothing removed may be.
+    std::mt19937 rng(11);
+    auto uniform = [&](double a, double b) { return std::uniform_real_distribution<double>(a, b)(rng); };
+    auto below = [&](int n) { return std::uniform_int_distribution<int>(0, n - 1)(rng); };
+    std::vector<Node> const nodes = looseNodes(400);
+    std::map<NodeImpl *, IndexedPlace> places;
+    SpatialIndex index([&](NodeImpl *node) { return places.at(node); });
+    auto randomPlace = [&] {
+        static double const reaches[] = {0.0, 0.5, 3.0, 40.0, 700.0};
+        IndexedPlace p{QRectF(uniform(0, 1000), uniform(0, 1000), uniform(0, 50), uniform(0, 50)),
+                       reaches[below(5)], below(4) == 0 ? reaches[below(5)] : 0.0};
+        int const odd = below(40);
+        if (odd == 0) p.box = QRectF(0, 0, -1, -1); // nowhere
+        if (odd == 1) p.box = QRectF(1e38, 0, 1e38, 1); // beyond single precision
+        return p;
+    };
+    for (int round = 0; round < 80; ++round) {
+        int const changes = round % 4 == 0 ? 50 + below(300) : 1 + below(12);
+        for (int i = 0; i < changes; ++i) {
+            NodeImpl *const node = nodes[size_t(below(int(nodes.size())))].getImpl();
+            switch (below(4)) {
+            case 0:
+                index.remove(node);
+                places.erase(node);
+                break;
+            case 1:
+                if (places.count(node)) index.markDirty(node); // marked, unchanged
+                break;
+            default:
+                places[node] = randomPlace();
+                index.markDirty(node);
+            }
+        }
+        ASSERT_EQ(index.size(), places.size()) << "round " << round;
+        for (int q = 0; q < 5; ++q) {
+            double const scale = std::exp(uniform(std::log(0.05), std::log(20.0)));
+            QRectF const area(uniform(-100, 1000), uniform(-100, 1000), uniform(0, 200), uniform(0, 200));
+            std::set<NodeImpl *> const found = candidates(index, area, scale);
+            for (NodeImpl *node : found) ASSERT_EQ(places.count(node), 1u) << "a removed node found, round " << round;
+            for (auto const &[node, p] : places) {
+                double const grow = p.reachPixels / scale + p.reachPixelsOverScale / (scale * scale);
+                QRectF const r = p.box.adjusted(-grow, -grow, grow, grow);
+                bool const meets = p.box.width() >= 0 && r.left() <= area.right() && r.right() >= area.left() &&
+                                   r.top() <= area.bottom() && r.bottom() >= area.top();
+                if (meets) {
+                    ASSERT_EQ(found.count(node), 1u) << "a node missed, round " << round << ", scale " << scale;
+                }
+            }
+        }
+    }
 }
