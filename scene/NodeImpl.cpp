@@ -343,6 +343,36 @@ void NodeImpl::paintMask(QPainter *painter, double scale, GLOX::GLRect<double> c
 
 // --------------------------------------------------------- Qt item changes
 
+void NodeImpl::holdQtItemUpdates() const
+{
+    if (ScenePrivate *scene = getScenePrivate()) scene->holdQtItemUpdates();
+}
+
+void NodeImpl::holdQtItemUpdates(QGraphicsItem::GraphicsItemChange change, QVariant const &value) const
+{
+    switch (change) {
+    // Changes after which Qt marks the item dirty. Not ItemVisibleChange:
+    // Qt's polish pass sends it to every new item, for nothing; the node's
+    // setter holds before a real one.
+    case QGraphicsItem::ItemPositionChange:
+    case QGraphicsItem::ItemTransformChange:
+    case QGraphicsItem::ItemRotationChange:
+    case QGraphicsItem::ItemScaleChange:
+    case QGraphicsItem::ItemTransformOriginPointChange:
+    case QGraphicsItem::ItemEnabledChange:
+    case QGraphicsItem::ItemSelectedChange:
+    case QGraphicsItem::ItemParentChange:
+    case QGraphicsItem::ItemFlagsChange:
+    case QGraphicsItem::ItemZValueChange:
+    case QGraphicsItem::ItemOpacityChange: holdQtItemUpdates(); break;
+    case QGraphicsItem::ItemSceneChange: // the scene it leaves and the one it joins
+        holdQtItemUpdates();
+        if (auto *joined = dynamic_cast<ScenePrivate *>(value.value<QGraphicsScene *>())) joined->holdQtItemUpdates();
+        break;
+    default: break;
+    }
+}
+
 void NodeImpl::itemChangeHook(QGraphicsItem::GraphicsItemChange change, QVariant const &)
 {
     switch (change) {
