@@ -348,12 +348,14 @@ void NodeImpl::holdQtItemUpdates() const
     if (ScenePrivate *scene = getScenePrivate()) scene->holdQtItemUpdates();
 }
 
-void NodeImpl::holdQtItemUpdates(QGraphicsItem::GraphicsItemChange change, QVariant const &value) const
+void NodeImpl::holdQtItemUpdates(QGraphicsItem::GraphicsItemChange change) const
 {
     switch (change) {
     // Changes after which Qt marks the item dirty. Not ItemVisibleChange:
     // Qt's polish pass sends it to every new item, for nothing; the node's
-    // setter holds before a real one.
+    // setter holds before a real one. A scene a node joins holds in
+    // addNodeImpl; here the scene it leaves does.
+    case QGraphicsItem::ItemSceneChange:
     case QGraphicsItem::ItemPositionChange:
     case QGraphicsItem::ItemTransformChange:
     case QGraphicsItem::ItemRotationChange:
@@ -365,10 +367,6 @@ void NodeImpl::holdQtItemUpdates(QGraphicsItem::GraphicsItemChange change, QVari
     case QGraphicsItem::ItemFlagsChange:
     case QGraphicsItem::ItemZValueChange:
     case QGraphicsItem::ItemOpacityChange: holdQtItemUpdates(); break;
-    case QGraphicsItem::ItemSceneChange: // the scene it leaves and the one it joins
-        holdQtItemUpdates();
-        if (auto *joined = dynamic_cast<ScenePrivate *>(value.value<QGraphicsScene *>())) joined->holdQtItemUpdates();
-        break;
     default: break;
     }
 }

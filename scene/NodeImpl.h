@@ -194,9 +194,9 @@ public:
     // transform, bounding rectangle): holds Qt's item updates in the
     // node's scene (ScenePrivate::holdQtItemUpdates). The changes Qt
     // announces through itemChange before marking the item are held so on
-    // their own, a change of scene in the scene joined too.
+    // their own.
     void holdQtItemUpdates() const;
-    void holdQtItemUpdates(QGraphicsItem::GraphicsItemChange change, QVariant const &value) const;
+    void holdQtItemUpdates(QGraphicsItem::GraphicsItemChange change) const;
     // Called from QGraphicsItem::itemChange before Qt's own handling; it
     // cannot alter the change. The default handles the three changes a
     // node reacts to and ignores the rest.

@@ -56,7 +56,7 @@ public:
 protected:
     QVariant itemChange(QGraphicsItem::GraphicsItemChange change, QVariant const &value) override
     {
-        holdQtItemUpdates(change, value);
+        holdQtItemUpdates(change);
         itemChangeHook(change, value);
         return T::itemChange(change, value);
     }
