@@ -62,6 +62,7 @@ void Node::setVisible(bool visible) const
     QGraphicsItem *item = impl->getGraphicsItem();
     // Compares with the node's own setting, not what its ancestors imply.
     if (item->isVisibleTo(item->parentItem()) == visible) return;
+    impl->holdQtItemUpdates();
     item->setVisible(visible);
     impl->notifyGeometryChanged(false);
 }

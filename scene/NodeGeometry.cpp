@@ -17,6 +17,7 @@ bool combineTransform(NodeImpl *impl, QTransform const &t)
     QGraphicsItem *item = impl->getGraphicsItem();
     QTransform const combined = t * item->transform();
     if (!isUsable(combined)) return false;
+    impl->holdQtItemUpdates();
     item->setTransform(combined);
     impl->notifyGeometryChanged(true);
     return true;
@@ -33,6 +34,7 @@ void Node::setPosition(GLOX::GLPoint<double> const &p) const
     if (!isUsable(p)) return;
     QPointF old = impl->getGraphicsItem()->pos();
     if (old.x() == p.x && old.y() == p.y) return;
+    impl->holdQtItemUpdates();
     impl->getGraphicsItem()->setPos(p.x, p.y);
     impl->notifyMoved();
 }
@@ -89,6 +91,7 @@ void Node::setTransform(GLOX::Transform const &t) const
 {
     NodeImpl *impl = getValidImpl();
     if (!isUsable(t.toQTransform()) || impl->getGraphicsItem()->transform() == t.toQTransform()) return;
+    impl->holdQtItemUpdates();
     impl->getGraphicsItem()->setTransform(t.toQTransform());
     impl->notifyGeometryChanged(true);
 }

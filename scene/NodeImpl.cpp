@@ -346,6 +346,34 @@ void NodeImpl::paintMask(QPainter *painter, double scale, GLOX::GLRect<double> c
 
 // --------------------------------------------------------- Qt item changes
 
+void NodeImpl::holdQtItemUpdates() const
+{
+    if (ScenePrivate *scene = getScenePrivate()) scene->holdQtItemUpdates();
+}
+
+void NodeImpl::holdQtItemUpdates(QGraphicsItem::GraphicsItemChange change) const
+{
+    switch (change) {
+    // Changes after which Qt marks the item dirty. Not ItemVisibleChange:
+    // Qt's polish pass sends it to every new item, for nothing; the node's
+    // setter holds before a real one. A scene a node joins holds in
+    // addNodeImpl; here the scene it leaves does.
+    case QGraphicsItem::ItemSceneChange:
+    case QGraphicsItem::ItemPositionChange:
+    case QGraphicsItem::ItemTransformChange:
+    case QGraphicsItem::ItemRotationChange:
+    case QGraphicsItem::ItemScaleChange:
+    case QGraphicsItem::ItemTransformOriginPointChange:
+    case QGraphicsItem::ItemEnabledChange:
+    case QGraphicsItem::ItemSelectedChange:
+    case QGraphicsItem::ItemParentChange:
+    case QGraphicsItem::ItemFlagsChange:
+    case QGraphicsItem::ItemZValueChange:
+    case QGraphicsItem::ItemOpacityChange: holdQtItemUpdates(); break;
+    default: break;
+    }
+}
+
 void NodeImpl::itemChangeHook(QGraphicsItem::GraphicsItemChange change, QVariant const &value)
 {
     switch (change) {

@@ -205,6 +205,13 @@ public:
                               QWidget *widget);
 
     // --- Qt item changes ------------------------------------------------
+    // Call before changing the Qt item in a way Qt marks dirty (position,
+    // transform, bounding rectangle): holds Qt's item updates in the
+    // node's scene (ScenePrivate::holdQtItemUpdates). The changes Qt
+    // announces through itemChange before marking the item are held so on
+    // their own.
+    void holdQtItemUpdates() const;
+    void holdQtItemUpdates(QGraphicsItem::GraphicsItemChange change) const;
     // Called from QGraphicsItem::itemChange before Qt's own handling; it
     // cannot alter the change. The default handles the three changes a
     // node reacts to and ignores the rest.

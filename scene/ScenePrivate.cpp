@@ -61,6 +61,12 @@ ScenePrivate::ScenePrivate(Scene *scene)
     // A scene rectangle of its own spares Qt a walk of every item to grow
     // one each time it announces a change; the library never reads it.
     setSceneRect(QRectF(-COORDINATE_LIMIT, -COORDINATE_LIMIT, 2 * COORDINATE_LIMIT, 2 * COORDINATE_LIMIT));
+    // Connected first, so it runs before any view's handler: an emission
+    // while updates are held is flagged for the views, and the hold ends
+    // with it, as Qt's "everything changed" state does.
+    QObject::connect(this, &QGraphicsScene::changed, this, [this] {
+        m_announcingHeldQtUpdates = std::exchange(m_qtUpdatesHeld, false);
+    }, Qt::DirectConnection);
     initializeToolFactory();
     initializeToolStack();
 }
@@ -87,6 +93,7 @@ void ScenePrivate::addNodeImpl(NodeImpl *node)
         other->removeNodeImpl(node);
     else if (!m_creationDrawStyles.isEmpty())
         node->setDrawStyle(m_creationDrawStyles.last());
+    holdQtItemUpdates();
     stackOnTop(node); // before it joins: Qt then has no scene to tell of the change
     addItem(node->getGraphicsItem());
     nodeGeometryChanged(node);
@@ -97,6 +104,7 @@ Node ScenePrivate::removeNodeImpl(NodeImpl *node)
 {
     NodeEmitterTable::instance().removeAll(node);
     if (!containsNode(node)) return Node();
+    holdQtItemUpdates(); // first: Qt's announcement then comes before the delivery, which draws
     flushPendingPolish(this);
     markRemovedSubtree(node);
     invalidateSceneBounds();
@@ -169,7 +177,15 @@ void ScenePrivate::deliverChanges()
     m_delivering = true;
     QMetaObject::invokeMethod(this, "_q_emitUpdated", Qt::DirectConnection);
     m_delivering = false;
+    m_announcingHeldQtUpdates = false;
     m_delivered.clear();
+}
+
+void ScenePrivate::holdQtItemUpdates()
+{
+    if (m_qtUpdatesHeld) return;
+    m_qtUpdatesHeld = true;
+    update(); // a null rectangle: Qt's "everything changed", announced next turn
 }
 
 PendingChanges ScenePrivate::takePendingChanges()

@@ -89,6 +89,17 @@ public:
     bool isDeliveringChanges() const { return m_delivering; }
     // Queues one delivery unless a batch is already open.
     void scheduleViewUpdate();
+    // Call before anything that may make Qt mark an item of this scene
+    // dirty. No QGraphicsView shows this scene: views draw from the
+    // delivered changes, so Qt's own processing of dirty items (a pass over
+    // every top-level item each turn) is wasted. This puts Qt in its
+    // "everything changed" state until its next emission of changed(), in
+    // which dirty marking returns at once and queues no such pass.
+    void holdQtItemUpdates();
+    // For handlers of changed(), valid only there: true when the emission's
+    // rectangles only say "everything" because the scene held Qt's item
+    // updates; what really changed is in the scene's changes.
+    bool announcesHeldQtUpdates() const { return m_announcingHeldQtUpdates; }
     void invalidateSceneBounds();
 
     // --- Queries ----------------------------------------------------------
@@ -235,6 +246,8 @@ private:
     mutable ZRange m_zRange;
     bool m_linearQueries = false;
     bool m_delivering = false;
+    bool m_qtUpdatesHeld = false;
+    bool m_announcingHeldQtUpdates = false;
     bool m_debugRepaintRegion = false;
     GLOX::Color m_debugRepaintRegionColor{0.0, 1.0, 0.0, 0.5};
     bool m_trackingPerformance = false;

@@ -56,10 +56,15 @@ public:
 protected:
     QVariant itemChange(QGraphicsItem::GraphicsItemChange change, QVariant const &value) override
     {
+        holdQtItemUpdates(change);
         itemChangeHook(change, value);
         return T::itemChange(change, value);
     }
-    void prepareItemGeometryChange() override { T::prepareGeometryChange(); }
+    void prepareItemGeometryChange() override
+    {
+        holdQtItemUpdates();
+        T::prepareGeometryChange();
+    }
 
 private:
     // Qt's geometry queries are const; the node's caches fill on demand.

@@ -21,6 +21,9 @@ namespace {
 constexpr double DEFAULT_MARGIN = 20.0;
 constexpr double DIRTY_BORDER_PIXELS = 3.0;
 
+// All there is: what an area beyond usable numbers may cover.
+QRectF everywhere() { return QRectF(-COORDINATE_LIMIT, -COORDINATE_LIMIT, 2 * COORDINATE_LIMIT, 2 * COORDINATE_LIMIT); }
+
 // What a changed area dirties: itself when its numbers are usable. Nested
 // transforms can carry a node beyond them, to infinities: such a node may
 // cover anything, so it dirties everything there is. An area with NaN in
@@ -29,7 +32,7 @@ QRectF dirtyArea(QRectF const &r)
 {
     if (isUsable(r) || r.isEmpty()) return r;
     if (std::isnan(r.x()) || std::isnan(r.y()) || std::isnan(r.width()) || std::isnan(r.height())) return QRectF();
-    return QRectF(-COORDINATE_LIMIT, -COORDINATE_LIMIT, 2 * COORDINATE_LIMIT, 2 * COORDINATE_LIMIT);
+    return everywhere();
 }
 } // namespace
 
@@ -121,7 +124,11 @@ void SceneServer::repaintAll(ScenePrivate *scene)
 QRectF SceneServer::drawnBounds(NodeImpl *node, double scale) const
 {
     QRectF local = GLOX::toQRectF(node->getCachedMaximumBounds(scale).boundingRect());
-    return dirtyArea(node->getGraphicsItem()->sceneTransform().mapRect(local));
+    QTransform const toScene = node->getGraphicsItem()->sceneTransform();
+    // Mapped through infinities, an edge at zero becomes NaN, which would
+    // say the node covers nothing: it may cover anything.
+    if (!local.isEmpty() && !isUsable(toScene)) return everywhere();
+    return dirtyArea(toScene.mapRect(local));
 }
 
 QRectF SceneServer::takeNodeDirtyRect(ScenePrivate *scene, double scale)
@@ -213,10 +220,15 @@ void SceneServer::publishBackground(RenderedLayer &layer, Background const &back
 
 void SceneServer::sceneChanged(QList<QRectF> const &rects)
 {
-    QRectF united;
-    for (QRectF const &r : rects) united |= dirtyArea(r);
     auto *scene = dynamic_cast<ScenePrivate *>(sender());
     if (!scene) return;
+    // While the scene holds Qt's item updates Qt announces "everything":
+    // only the scene's own changes tell what to draw.
+    bool const held = scene->announcesHeldQtUpdates();
+    if (held && !scene->isDeliveringChanges()) return;
+    QRectF united;
+    if (!held)
+        for (QRectF const &r : rects) united |= dirtyArea(r);
     // Qt announces its items' updates on its own too, often just before the
     // scene delivers the same changes: keep its area for that delivery
     // rather than draw it twice.

@@ -1,10 +1,13 @@
 // How a scene records its nodes' changes for the views: the kind per node,
-// how kinds combine, and one queued call per batch.
+// how kinds combine, one queued call per batch, and Qt kept from
+// processing item updates of its own.
 
 #include <ConstantLodScale>
 
 #include "support/SceneFixture.h"
 
+#include <QEvent>
+#include <algorithm>
 #include <vector>
 
 using namespace VOR2;
@@ -21,9 +24,11 @@ protected:
     void SetUp() override
     {
         SceneTest::SetUp();
-        QObject::connect(scene->getPrivate(), &QGraphicsScene::changed, [this] {
+        QObject::connect(scene->getPrivate(), &QGraphicsScene::changed, [this](QList<QRectF> const &rects) {
             ++changedSignals;
-            deliveredSizes.push_back(scene->getPrivate()->changesBeingDelivered().size());
+            ScenePrivate *p = scene->getPrivate();
+            deliveredSizes.push_back(p->changesBeingDelivered().size());
+            if (!p->isDeliveringChanges()) qtAnnouncements.push_back({rects, p->announcesHeldQtUpdates()});
         });
         node = added(rect(0, 0));
         runHostLoopTurn();
@@ -43,6 +48,25 @@ protected:
     RectNode node{static_cast<NodeImpl *>(nullptr)};
     int changedSignals = 0;
     std::vector<int> deliveredSizes; // what each changed() handed to the views
+    // The emissions of changed() Qt made on its own, outside deliveries.
+    struct Announcement {
+        QList<QRectF> rects;
+        bool held;
+    };
+    std::vector<Announcement> qtAnnouncements;
+};
+
+// Counts the queued calls an object receives: Qt's pass over dirty items
+// and its announcement of changes arrive as such calls on the scene.
+class QueuedCallCounter : public QObject {
+public:
+    explicit QueuedCallCounter(QObject *watched) { watched->installEventFilter(this); }
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        count += event->type() == QEvent::MetaCall ? 1 : 0;
+        return false;
+    }
+    int count = 0;
 };
 } // namespace
 
@@ -129,11 +153,52 @@ TEST_F(ChangeRecording, OneQueuedCallPerBatch)
 
     runHostLoopTurn();
     ASSERT_GE(changedSignals, 1);
-    EXPECT_EQ(deliveredSizes.front(), 2) << "every reader of the signal sees the whole batch";
+    EXPECT_EQ(std::count(deliveredSizes.begin(), deliveredSizes.end(), 2), 1)
+        << "one signal hands every reader the whole batch";
+    EXPECT_EQ(std::count(deliveredSizes.begin(), deliveredSizes.end(), 0), changedSignals - 1) << "the others none";
     EXPECT_EQ(scene->getPrivate()->getPendingChanges().size(), 0) << "then the batch is gone";
     EXPECT_EQ(scene->getPrivate()->changesBeingDelivered().size(), 0);
 
     node.setPosition({100, 0});
     EXPECT_EQ(queuedCalls(), before + 2) << "a new batch queues a new call";
     runHostLoopTurn();
+}
+
+TEST_F(ChangeRecording, QtLeavesTheItemsAloneAndAnnouncesOnlyWhatTheSceneDoesNotKnow)
+{
+    // Every call queued by one turn runs in the next, at the latest.
+    auto settle = [] {
+        for (int i = 0; i < 3; ++i) runHostLoopTurn();
+    };
+    // What Qt announced on its own that the delivered changes do not say.
+    auto newsFromQt = [this] {
+        QList<QRectF> news;
+        for (Announcement const &a : qtAnnouncements)
+            if (!a.held) news += a.rects;
+        qtAnnouncements.clear();
+        return news;
+    };
+    for (int i = 0; i < 50; ++i) added(rect(20.0 * i, 100));
+    settle();
+    newsFromQt();
+    QueuedCallCounter calls(scene->getPrivate());
+
+    node.setPosition({5, 5});
+    node.setRect({0, 0, 20, 20});
+    node.rotateDegrees(30);
+    node.setOpacity(0.5);
+    node.setVisible(false);
+    settle();
+    // Qt's own pass over its dirty items would be a third call, visiting
+    // every item of the scene.
+    EXPECT_EQ(calls.count, 2) << "Qt's announcement and the scene's delivery only";
+    EXPECT_EQ(newsFromQt(), QList<QRectF>());
+
+    scene->getPrivate()->update(QRectF(1, 2, 3, 4));
+    settle();
+    EXPECT_EQ(newsFromQt(), QList<QRectF>{QRectF(1, 2, 3, 4)}) << "an area no node reported is announced as it is";
+
+    node.remove();
+    settle();
+    EXPECT_EQ(newsFromQt(), QList<QRectF>()) << "a removal is the scene's to report too";
 }

@@ -93,6 +93,42 @@ TEST_F(SceneServerTest, RemovedAndHiddenNodesLeaveNoTrace)
     EXPECT_TRUE(pixelIs(layerImage(), 55, 55, Qt::blue));
 }
 
+TEST_F(SceneServerTest, RemovingOrHidingANodeRedrawsItsAreaOnly)
+{
+    RectNode gone = solidRect({10, 10, 10, 10}, Qt::red), hidden = solidRect({50, 10, 10, 10}, Qt::blue);
+    scene->addNode(gone);
+    scene->addNode(hidden);
+    show(1, 0, 0);
+    settle();
+    takeDirty();
+    layerImage().setPixelColor(90, 90, Qt::green); // a canary outside both areas
+
+    gone.remove();
+    hidden.setVisible(false);
+    settle();
+    EXPECT_TRUE(pixelIs(layerImage(), 90, 90, Qt::green)) << "nothing else is redrawn";
+    QRectF dirty = takeDirty();
+    EXPECT_TRUE(dirty.contains(QRectF(10, 10, 10, 10)));
+    EXPECT_TRUE(dirty.contains(QRectF(50, 10, 10, 10)));
+    EXPECT_FALSE(dirty.intersects(QRectF(0, 40, 100, 60)));
+}
+
+TEST_F(SceneServerTest, AnAreaQtAnnouncesOnItsOwnIsRedrawn)
+{
+    scene->addNode(solidRect({10, 10, 40, 40}, Qt::red));
+    show(1, 0, 0);
+    settle();
+    takeDirty();
+    layerImage().setPixelColor(25, 25, Qt::green); // inside the announced area
+    layerImage().setPixelColor(45, 45, Qt::green); // outside it
+
+    scene->getPrivate()->update(QRectF(20, 20, 10, 10));
+    settle();
+    EXPECT_EQ(takeDirty(), QRectF(20, 20, 10, 10));
+    EXPECT_TRUE(pixelIs(layerImage(), 25, 25, Qt::red)) << "the area is drawn anew";
+    EXPECT_TRUE(pixelIs(layerImage(), 45, 45, Qt::green));
+}
+
 TEST_F(SceneServerTest, AScrollRepaintsTheWholeViewportAndAResizeStartsAfresh)
 {
     scene->addNode(solidRect({0, 0, 300, 300}, Qt::red));
