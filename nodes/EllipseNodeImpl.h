@@ -24,6 +24,7 @@ public:
     // united with its interior.
     Bounds computeStrokedOutline(double scale) override;
     void paintContents(QPainter *painter, QStyleOptionGraphicsItem const *option, QWidget *widget) override;
+    bool paintIgnoresPainterState() const override { return true; }
     // The node drawn as in paintContents in opaque black, its stroke width
     // kept; antialiased only when the style asks.
     void paintMask(QPainter *painter, double scale, GLOX::GLRect<double> const &rect) override;

@@ -59,6 +59,7 @@ public:
     using TypedNodeImpl<QGraphicsItem>::contains;
     // The segment, each end drawn short by its decoration's backoff.
     void paintContents(QPainter *painter, QStyleOptionGraphicsItem const *option, QWidget *widget) override;
+    bool paintIgnoresPainterState() const override { return true; }
 
 private:
     QPainterPath geometricPath() const;

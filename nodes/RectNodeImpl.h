@@ -26,6 +26,7 @@ public:
     // The rectangle grown by half the stroke width at `scale` on each side.
     Bounds computeStrokedOutline(double scale) override;
     void paintContents(QPainter *painter, QStyleOptionGraphicsItem const *option, QWidget *widget) override;
+    bool paintIgnoresPainterState() const override { return true; }
 
 private:
     QRectF m_rect;

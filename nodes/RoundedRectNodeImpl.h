@@ -31,6 +31,7 @@ public:
     // cap), united with the interior.
     Bounds computeStrokedOutline(double scale) override;
     void paintContents(QPainter *painter, QStyleOptionGraphicsItem const *option, QWidget *widget) override;
+    bool paintIgnoresPainterState() const override { return true; }
     // The node drawn as in paintContents in opaque black, its stroke width
     // kept; antialiased only when the style asks.
     void paintMask(QPainter *painter, double scale, GLOX::GLRect<double> const &rect) override;

@@ -30,6 +30,7 @@ public:
     Bounds computeStrokedOutline(double scale) override;
     // Nothing at all for an empty shape: not even the painter is touched.
     void paintContents(QPainter *painter, QStyleOptionGraphicsItem const *option, QWidget *widget) override;
+    bool paintIgnoresPainterState() const override { return true; }
 
 private:
     GLOX::Shape m_shape;
