@@ -5,28 +5,28 @@
 #include <QGraphicsItem>
 #include <QGraphicsScene>
 #include <QPainter>
+#include <cmath>
 
 namespace VOR2 {
 
 namespace {
 constexpr double NULL_OPACITY = 0.001; // what Qt takes for fully transparent
-constexpr double ZERO_SIZE_WIDENING = 0.00001;
-// Device pixels Qt adds around an item's view rectangle before it decides
-// that the item shows, when it renders without a view.
-constexpr int VIEW_RECT_ADJUST = 1;
+// Beyond this, rounding a rectangle to ints overflows.
+constexpr double INT_RECT_LIMIT = 1 << 30;
+
+// The style option's rectangle: the bounding rectangle rounded, as Qt gives
+// it; empty where the rounding would overflow (plain nodes do not read it).
+QRect roundedOrEmpty(QRectF const &r)
+{
+    bool const fits = std::abs(r.left()) < INT_RECT_LIMIT && std::abs(r.right()) < INT_RECT_LIMIT &&
+                      std::abs(r.top()) < INT_RECT_LIMIT && std::abs(r.bottom()) < INT_RECT_LIMIT;
+    return fits ? r.toRect() : QRect();
+}
 
 constexpr QGraphicsItem::GraphicsItemFlags NOT_PLAIN_FLAGS =
     QGraphicsItem::ItemClipsToShape | QGraphicsItem::ItemClipsChildrenToShape |
     QGraphicsItem::ItemContainsChildrenInShape | QGraphicsItem::ItemHasNoContents |
     QGraphicsItem::ItemIgnoresTransformations;
-
-// The bounding rectangle as Qt widens it before mapping it to the device.
-QRectF widened(QRectF r)
-{
-    if (r.width() == 0) r.adjust(-ZERO_SIZE_WIDENING, 0, ZERO_SIZE_WIDENING, 0);
-    if (r.height() == 0) r.adjust(0, -ZERO_SIZE_WIDENING, 0, ZERO_SIZE_WIDENING);
-    return r;
-}
 } // namespace
 
 PlainNodePainter::PlainNodePainter(QPainter *painter)
@@ -49,13 +49,13 @@ void PlainNodePainter::draw(QGraphicsItem *item)
 {
     double const opacity = item->opacity(); // a top-level item's own
     if (!item->isVisible() || opacity < NULL_OPACITY) return;
+    // Qt, rendering without a view, also skips an item whose device
+    // rectangle, grown by a pixel on every side, is empty: never one of
+    // finite size, and its integer arithmetic wraps round (and draws) for
+    // one beyond the int range, so that test is left out here.
     QTransform transform = item->sceneTransform();
     transform *= m_view; // as Qt combines them
     QRectF const bounds = item->boundingRect();
-    QRect const onDevice = transform.mapRect(widened(bounds))
-                               .toAlignedRect()
-                               .adjusted(-VIEW_RECT_ADJUST, -VIEW_RECT_ADJUST, VIEW_RECT_ADJUST, VIEW_RECT_ADJUST);
-    if (onDevice.normalized().isEmpty()) return;
     if (!m_saved) {
         m_painter->save();
         m_saved = true;
@@ -69,7 +69,7 @@ void PlainNodePainter::draw(QGraphicsItem *item)
     if (item->isSelected()) m_option.state |= QStyle::State_Selected;
     if (item->isEnabled()) m_option.state |= QStyle::State_Enabled;
     if (item->hasFocus()) m_option.state |= QStyle::State_HasFocus;
-    m_option.rect = bounds.toRect();
+    m_option.rect = roundedOrEmpty(bounds);
     m_option.exposedRect = bounds;
     item->paint(m_painter, &m_option, nullptr);
 }
