@@ -27,6 +27,7 @@ public:
     // The effect's renderEllipse method, else its generic one.
     void renderEffect(Effect *effect, QPainter *painter, QStyleOptionGraphicsItem const *option,
                       QWidget *widget) override;
+    bool paintIgnoresPainterState() const override { return true; }
     // The node drawn as in paintContents in opaque black, its stroke width
     // kept; antialiased only when the style asks.
     void paintMask(QPainter *painter, double scale, GLOX::GLRect<double> const &rect) override;

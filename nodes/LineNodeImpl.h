@@ -62,6 +62,7 @@ public:
     // The effect's renderLine method, else its generic one.
     void renderEffect(Effect *effect, QPainter *painter, QStyleOptionGraphicsItem const *option,
                       QWidget *widget) override;
+    bool paintIgnoresPainterState() const override { return true; }
 
 private:
     QPainterPath geometricPath() const;

@@ -29,6 +29,7 @@ public:
     // The effect's renderRect method, else its generic one.
     void renderEffect(Effect *effect, QPainter *painter, QStyleOptionGraphicsItem const *option,
                       QWidget *widget) override;
+    bool paintIgnoresPainterState() const override { return true; }
 
 private:
     QRectF m_rect;

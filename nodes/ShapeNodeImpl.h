@@ -33,6 +33,7 @@ public:
     // The effect's renderShape method, else its generic one.
     void renderEffect(Effect *effect, QPainter *painter, QStyleOptionGraphicsItem const *option,
                       QWidget *widget) override;
+    bool paintIgnoresPainterState() const override { return true; }
 
 private:
     GLOX::Shape m_shape;

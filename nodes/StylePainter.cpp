@@ -52,22 +52,62 @@ void setPenWidth(QPen &pen, double w, double scale)
     pen.setCosmetic(true);
     pen.setWidthF(device >= 0.0 && device <= PEN_WIDTH_LIMIT ? device : PEN_WIDTH_LIMIT);
 }
+
+// What a pen is made of, and the last pen made on this thread: nodes of a
+// scene mostly share their strokes, and a QPen is a shared value, so the
+// same pen is handed out again instead of being built anew.
+struct PenKey {
+    GLOX::Color color;
+    double width;
+    double scale;
+    StrokeCapStyle cap;
+    StrokeJoinStyle join;
+    StrokeStyle style;
+
+    bool operator==(PenKey const &o) const
+    {
+        return color == o.color && width == o.width && scale == o.scale && cap == o.cap && join == o.join &&
+               style == o.style;
+    }
+};
+
+struct LastPen {
+    bool valid = false;
+    PenKey key;
+    QPen pen;
+};
+
+// The same for the brush of a solid colour.
+struct LastSolidBrush {
+    bool valid = false;
+    GLOX::Color color;
+    QBrush brush;
+};
+
+thread_local LastPen lastPen;
+thread_local LastSolidBrush lastSolidBrush;
 } // namespace
 
 QPen penForStroke(Stroke const &stroke, double scale)
 {
-    QPen pen(GLOX::toQColor(stroke.color()));
-    setPenWidth(pen, stroke.width(scale), scale);
-    pen.setCapStyle(toQtCap(stroke.capStyle()));
-    pen.setJoinStyle(toQtJoin(stroke.joinStyle()));
-    pen.setStyle(toQtPenStyle(stroke.style()));
+    PenKey const key{stroke.color(), stroke.width(scale), scale, stroke.capStyle(), stroke.joinStyle(), stroke.style()};
+    if (lastPen.valid && lastPen.key == key) return lastPen.pen;
+    QPen pen(GLOX::toQColor(key.color));
+    setPenWidth(pen, key.width, scale);
+    pen.setCapStyle(toQtCap(key.cap));
+    pen.setJoinStyle(toQtJoin(key.join));
+    pen.setStyle(toQtPenStyle(key.style));
+    lastPen = {true, key, pen};
     return pen;
 }
 
 QBrush brushForFill(Fill const &fill)
 {
     switch (int(fill.style())) {
-    case 1: return QBrush(GLOX::toQColor(fill.color()), Qt::SolidPattern);
+    case 1:
+        if (!lastSolidBrush.valid || !(lastSolidBrush.color == fill.color()))
+            lastSolidBrush = {true, fill.color(), QBrush(GLOX::toQColor(fill.color()), Qt::SolidPattern)};
+        return lastSolidBrush.brush;
     case 2: {
         QGradient const *gradient = fill.gradient().getGradient();
         return gradient ? QBrush(*gradient) : QBrush();
@@ -91,7 +131,11 @@ void applyDrawStyle(QPainter *painter, DrawStyle const &style, double scale)
     QPen pen = penForStroke(style.stroke(), scale);
     painter->setPen(pen);
     painter->setBrush(brushForFill(style.fill()));
-    painter->setRenderHint(QPainter::Antialiasing, style.isAntiAliased() || isThinLine(pen, scale));
+    // Qt recomputes its rasteriser's state at every hint set, even to the
+    // value it has.
+    bool const antiAliased = style.isAntiAliased() || isThinLine(pen, scale);
+    if (painter->testRenderHint(QPainter::Antialiasing) != antiAliased)
+        painter->setRenderHint(QPainter::Antialiasing, antiAliased);
 }
 
 } // namespace VOR2

@@ -1,8 +1,8 @@
 #pragma once
 // How a DrawStyle reaches a QPainter: the pen of a Stroke at a view scale,
 // the brush of a Fill, and the antialiasing rule for thin lines. Pure
-// functions of their arguments; pens and brushes are rebuilt at every
-// paint and never cached.
+// functions of their arguments; each thread keeps the last pen and the last
+// solid brush it made and hands them out again for the same arguments.
 
 #include <DrawStyle>
 #include <Fill>

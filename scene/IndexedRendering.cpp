@@ -1,9 +1,11 @@
 // The scene drawn through its spatial index: what QGraphicsScene::render
 // draws, with the items to draw found by the index instead of a walk of
 // every item. Qt then draws each found item's top-level subtree, bottom
-// first, as it would.
+// first, as it would; plain nodes are drawn straight, with Qt's pixels.
 
 #include "scene/ScenePrivate.h"
+
+#include "scene/PlainNodePainter.h"
 
 #include <QGraphicsItem>
 #include <QPainter>
@@ -37,9 +39,7 @@ void ScenePrivate::renderRegion(QPainter *painter, QRectF const &target, QRectF 
     }
     // Topmost first from the index; Qt draws from the bottom.
     QList<QGraphicsItem *> const found = itemsIn(from, Qt::IntersectsItemBoundingRect);
-    std::vector<QGraphicsItem *> bottomFirst(found.rbegin(), found.rend());
-    // Qt's own drawing ignores the options; it makes its own per item.
-    std::vector<QStyleOptionGraphicsItem> options(bottomFirst.size());
+    std::vector<QGraphicsItem *> const bottomFirst(found.rbegin(), found.rend());
 
     painter->save();
     painter->setClipRect(to, Qt::IntersectClip);
@@ -49,9 +49,38 @@ void ScenePrivate::renderRegion(QPainter *painter, QRectF const &target, QRectF 
                                    .translate(-from.left(), -from.top()),
                                true);
     drawBackground(painter, from);
-    drawItems(painter, int(bottomFirst.size()), bottomFirst.data(), options.data());
+    drawFound(painter, bottomFirst);
     drawForeground(painter, from);
     painter->restore();
+}
+
+void ScenePrivate::drawFound(QPainter *painter, std::vector<QGraphicsItem *> const &bottomFirst)
+{
+    // Qt polishes waiting items before it draws any.
+    drawItems(painter, 0, nullptr, nullptr);
+    PlainNodePainter plain(painter);
+    // Qt draws the subtree of each found item's top-level item, once, where
+    // the first of its items comes. A subtree is never split by a plain node
+    // (top-level and childless, it stacks wholly above or below it), so each
+    // run of other items goes to Qt in one call.
+    std::vector<QGraphicsItem *> run;
+    auto drawRun = [&] {
+        if (run.empty()) return;
+        // Qt's own drawing ignores the options; it makes its own per item.
+        std::vector<QStyleOptionGraphicsItem> options(run.size());
+        drawItems(painter, int(run.size()), run.data(), options.data());
+        run.clear();
+    };
+    for (QGraphicsItem *item : bottomFirst) {
+        if (PlainNodePainter::isPlain(item)) {
+            drawRun();
+            plain.draw(item);
+            continue;
+        }
+        plain.finish();
+        run.push_back(item);
+    }
+    drawRun();
 }
 
 } // namespace VOR2

@@ -179,6 +179,12 @@ public:
     // --- Painting -------------------------------------------------------
     // Paints the node itself, not its children, in its own coordinates.
     virtual void paintContents(QPainter *painter, QStyleOptionGraphicsItem const *option, QWidget *widget);
+    // True when paintContents sets the painter's pen, brush and
+    // antialiasing itself before it draws and changes no other painter
+    // state, so that what one such node leaves behind cannot show in the
+    // next. They are drawn one after another without the painter being
+    // saved and restored around each. False unless a node class says so.
+    virtual bool paintIgnoresPainterState() const { return false; }
     // Paints the node for Qt: directly, or through its offscreen image when
     // it caches itself. Children are Qt's to paint.
     void paintNode(QPainter *painter, QStyleOptionGraphicsItem const *option, QWidget *widget);

@@ -43,6 +43,7 @@
 
 #include <QGraphicsScene>
 #include <memory>
+#include <vector>
 
 namespace VOR2 {
 
@@ -216,6 +217,9 @@ private:
     void markIndexDirtySubtree(NodeImpl *node);
     QList<QGraphicsItem *> indexedItems(AreaTestKind kind, QPointF const &point, QRectF const &rect,
                                         Qt::ItemSelectionMode mode) const;
+    // Draws the items renderRegion found, bottom first, with the painter in
+    // scene coordinates (scene/IndexedRendering.cpp).
+    void drawFound(QPainter *painter, std::vector<QGraphicsItem *> const &bottomFirst);
     // The queued delivery: hands the pending batch to every view through
     // one emission of changed(), then drops it.
     void deliverChanges();

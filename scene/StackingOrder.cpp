@@ -4,6 +4,8 @@
 
 #include <QGraphicsItem>
 #include <algorithm>
+#include <cstdint>
+#include <vector>
 
 namespace VOR2 {
 
@@ -53,7 +55,30 @@ bool isStackedAbove(QGraphicsItem const *a, QGraphicsItem const *b)
 
 void sortTopmostFirst(QList<QGraphicsItem *> &items)
 {
-    std::sort(items.begin(), items.end(), [](QGraphicsItem *a, QGraphicsItem *b) { return isStackedAbove(a, b); });
+    bool const allTopLevel =
+        std::all_of(items.cbegin(), items.cend(), [](QGraphicsItem const *item) { return !item->parentItem(); });
+    if (!allTopLevel) {
+        std::sort(items.begin(), items.end(), [](QGraphicsItem *a, QGraphicsItem *b) { return isStackedAbove(a, b); });
+        return;
+    }
+    // Top-level items only: siblings all, so each is ranked by its own key,
+    // read once instead of at every comparison.
+    struct Ranked {
+        double z;
+        std::uint64_t stamp;
+        QGraphicsItem *item;
+        bool behind;
+    };
+    std::vector<Ranked> ranked;
+    ranked.reserve(size_t(items.size()));
+    for (QGraphicsItem *item : qAsConst(items))
+        ranked.push_back({item->zValue(), NodeImpl::fromItem(item)->siblingStamp(), item, stacksBehind(item)});
+    std::sort(ranked.begin(), ranked.end(), [](Ranked const &a, Ranked const &b) {
+        if (a.behind != b.behind) return b.behind;
+        if (a.z != b.z) return a.z > b.z;
+        return a.stamp > b.stamp;
+    });
+    for (int i = 0; i < items.size(); ++i) items[i] = ranked[size_t(i)].item;
 }
 
 } // namespace VOR2

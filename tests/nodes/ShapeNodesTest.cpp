@@ -66,6 +66,43 @@ TEST(StylePainter, StyleMappingAndAntialiasing)
     EXPECT_TRUE(painter.testRenderHint(QPainter::Antialiasing));
 }
 
+TEST(StylePainter, ARepeatedPenOrBrushStillFollowsEveryArgument)
+{
+    // Each asked right after the base stroke, from which it differs in one
+    // thing only: the pen kept from the call before must not answer for it.
+    Stroke const base(GLOX::Color(0.2, 0.4, 0.6), 2.0, DashLine, RoundCap, BevelJoin);
+    QPen const first = penForStroke(base, 1.0);
+    auto afterBase = [&](Stroke const &other, double scale) {
+        penForStroke(base, 1.0);
+        return penForStroke(other, scale);
+    };
+    EXPECT_EQ(afterBase(base, 1.0), first);
+    Stroke other = base;
+    other.setColor(GLOX::Color(0.2, 0.4, 0.7));
+    EXPECT_EQ(afterBase(other, 1.0).color(), GLOX::toQColor(other.color()));
+    other = base;
+    other.setCapStyle(SquareCap);
+    EXPECT_EQ(afterBase(other, 1.0).capStyle(), Qt::SquareCap);
+    other = base;
+    other.setJoinStyle(MiterJoin);
+    EXPECT_EQ(afterBase(other, 1.0).joinStyle(), Qt::MiterJoin);
+    other = base;
+    other.setStyle(DotLine);
+    EXPECT_EQ(afterBase(other, 1.0).style(), Qt::DotLine);
+    other = base;
+    other.setLogicalWidth(3.0);
+    EXPECT_DOUBLE_EQ(afterBase(other, 1.0).widthF(), 3.0);
+    EXPECT_DOUBLE_EQ(afterBase(Stroke(), 0.5).widthF(), 2.0);
+    EXPECT_DOUBLE_EQ(penForStroke(Stroke(), 0.25).widthF(), 4.0) << "a hairline follows the scale";
+
+    Fill const red(GLOX::Color(1, 0, 0)), green(GLOX::Color(0, 1, 0));
+    EXPECT_EQ(brushForFill(red).color(), QColor(255, 0, 0));
+    EXPECT_EQ(brushForFill(red).color(), QColor(255, 0, 0));
+    EXPECT_EQ(brushForFill(green).color(), QColor(0, 255, 0));
+    EXPECT_EQ(brushForFill(Fill(GLOX::Color(0, 1, 0), NoFill)).style(), Qt::NoBrush);
+    EXPECT_EQ(brushForFill(green).style(), Qt::SolidPattern);
+}
+
 TEST(ShapeNodes, StrokedOutlineGrowsByHalfTheWidthAtTheScale)
 {
     R const r(20, 0, 10, 10);
