@@ -93,7 +93,15 @@ QPen penForStroke(Stroke const &stroke, double scale)
     PenKey const key{stroke.color(), stroke.width(scale), scale, stroke.capStyle(), stroke.joinStyle(), stroke.style()};
     if (lastPen.valid && lastPen.key == key) return lastPen.pen;
     QPen pen(GLOX::toQColor(key.color));
-    setPenWidth(pen, key.width, scale);
+    if (stroke.logicalWidth() == 0.0) {
+        // A hairline, 1 / scale wide: Qt's own pen of one device pixel is
+        // that line, and Qt draws it with its fast line rasteriser at every
+        // scale instead of only where width times scale rounds to 1 or less.
+        pen.setCosmetic(true);
+        pen.setWidthF(1.0);
+    } else {
+        setPenWidth(pen, key.width, scale);
+    }
     pen.setCapStyle(toQtCap(key.cap));
     pen.setJoinStyle(toQtJoin(key.join));
     pen.setStyle(toQtPenStyle(key.style));

@@ -16,9 +16,11 @@ class QPainter;
 namespace VOR2 {
 
 // The pen of `stroke` at view `scale`: its colour, the width of
-// Stroke::width(scale), its cap, join and line style. A width of 2^15 or
-// more, which QPen refuses, is given in device pixels on a cosmetic pen
-// (at most 32767 of them).
+// Stroke::width(scale), its cap, join and line style. A hairline (logical
+// width 0, one device pixel wide) is Qt's cosmetic pen of one pixel, the
+// same line drawn by Qt's fast rasteriser. A width of 2^15 or more, which
+// QPen refuses, is given in device pixels on a cosmetic pen (at most 32767
+// of them).
 QPen penForStroke(Stroke const &stroke, double scale);
 
 // The brush of `fill`: none, a solid colour, or its gradient.

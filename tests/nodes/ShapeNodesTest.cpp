@@ -37,10 +37,12 @@ TEST(StylePainter, ThinLinesAreThoseBelowOneDevicePixel)
     QPen cosmetic = penForStroke(constantStroke(0.5), 1.0);
     cosmetic.setCosmetic(true);
     EXPECT_FALSE(isThinLine(cosmetic, 1.0));
-    // A hairline is one device pixel at every scale, hence never thin.
+    // A hairline is Qt's one-device-pixel pen at every scale, hence never
+    // thin.
     for (double scale : {0.5, 1.0, 4.0}) {
         QPen hairline = penForStroke(Stroke(), scale);
-        EXPECT_DOUBLE_EQ(hairline.widthF(), 1.0 / scale);
+        EXPECT_TRUE(hairline.isCosmetic());
+        EXPECT_DOUBLE_EQ(hairline.widthF(), 1.0);
         EXPECT_FALSE(isThinLine(hairline, scale));
     }
 }
@@ -92,8 +94,8 @@ TEST(StylePainter, ARepeatedPenOrBrushStillFollowsEveryArgument)
     other = base;
     other.setLogicalWidth(3.0);
     EXPECT_DOUBLE_EQ(afterBase(other, 1.0).widthF(), 3.0);
-    EXPECT_DOUBLE_EQ(afterBase(Stroke(), 0.5).widthF(), 2.0);
-    EXPECT_DOUBLE_EQ(penForStroke(Stroke(), 0.25).widthF(), 4.0) << "a hairline follows the scale";
+    EXPECT_DOUBLE_EQ(afterBase(constantStroke(2.0), 0.5).widthF(), 4.0);
+    EXPECT_DOUBLE_EQ(penForStroke(constantStroke(2.0), 0.25).widthF(), 8.0) << "a width that follows the scale";
 
     Fill const red(GLOX::Color(1, 0, 0)), green(GLOX::Color(0, 1, 0));
     EXPECT_EQ(brushForFill(red).color(), QColor(255, 0, 0));
