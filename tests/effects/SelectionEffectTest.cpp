@@ -3,6 +3,7 @@
 // and carried by a removed node until another scene deselects it.
 
 #include <EffectStroke>
+#include <GlobalViewerInfo>
 #include <NodeEffects>
 #include <SelectionNonLinearLodScale>
 
@@ -87,4 +88,23 @@ TEST_F(SelectionEffect, ARemovedNodeCarriesItsOutlineUntilAnotherSceneDeselectsI
     a.setSelected(true);
     EXPECT_EQ(selectionOf(a), other->getPrivate()->getSelectionEffect()) << "the new scene's own outline";
     other->removeNode(a);
+}
+
+TEST_F(SelectionEffect, BoundingRectangleQueriesFollowTheOutlineAtEachScale)
+{
+    RectNode a = added(selectable(0)); // (0, 0, 10, 10)
+    a.setSelected(true);
+    // 8 units out at scale 1; at scale 4 the outline grows less than the
+    // zoom: 16 pixels, 4 units.
+    for (auto [scale, reach] : {std::pair{1.0, 8.0}, std::pair{4.0, 4.0}}) {
+        SCOPED_TRACE(scale);
+        GlobalViewerInfo::instance()->setCurrentView(this, scale);
+        auto found = [&](double x) {
+            return scene->getPrivate()->itemsIn(QRectF(x, 5, 0.1, 0.1), Qt::IntersectsItemBoundingRect).size();
+        };
+        EXPECT_EQ(found(-reach + 0.25), 1);
+        EXPECT_EQ(found(-reach - 0.5), 0);
+        EXPECT_TRUE(scene->getNodesAtScenePos({-1, 5}).isEmpty()) << "the outline is no part of the shape";
+    }
+    GlobalViewerInfo::instance()->clearCurrentView();
 }
