@@ -12,7 +12,7 @@ Effect::Effect() : m_boundLists(std::make_unique<BoundLists>()) {}
 
 Effect::~Effect()
 {
-    for (NodeEffectsImpl *list : m_boundLists->lists) list->effectDestroyed(this);
+    while (EffectRegistration *r = m_boundLists->head) m_boundLists->unlink(r);
 }
 
 Effect::Effect(Effect const &other)
@@ -73,10 +73,17 @@ void Effect::setOpacity(double) {}
 void Effect::notifyPropertyChanged()
 {
     GLUV::Packet const packet = GLUV::makeNotification();
-    // A list told of the change may run code that ends another list.
-    std::vector<NodeEffectsImpl *> const lists(m_boundLists->lists.begin(), m_boundLists->lists.end());
-    for (NodeEffectsImpl *list : lists)
-        if (m_boundLists->lists.contains(list)) list->onEffectPropertyChanged(packet);
+    // A list told of the change may run code that ends another list: each
+    // is held while the others are told, and told only if it still hears.
+    std::vector<NodeEffectsImpl *> lists;
+    for (EffectRegistration *r = m_boundLists->head; r; r = r->next) {
+        r->list->ref();
+        lists.push_back(r->list);
+    }
+    for (NodeEffectsImpl *list : lists) {
+        if (list->hears(this)) list->onEffectPropertyChanged(packet);
+        list->unref();
+    }
     propertyChangedEmitter.sendWith(GLUV::SendDirect, packet);
 }
 

@@ -2,7 +2,6 @@
 
 #include <Error>
 
-#include "effects/EffectBoundLists.h"
 #include "nodes/StylePainter.h"
 #include "scene/NodeImpl.h"
 
@@ -66,20 +65,32 @@ void NodeEffectsImpl::repaintNode()
 
 void NodeEffectsImpl::onEffectPropertyChanged(GLUV::Packet) { repaintNode(); }
 
+bool NodeEffectsImpl::hears(Effect const *effect) const
+{
+    if (m_firstRegistration.effect == effect) return true;
+    for (auto const &r : m_moreRegistrations)
+        if (r->effect == effect) return true;
+    return false;
+}
+
 void NodeEffectsImpl::listenTo(Effect *effect)
 {
-    if (effect->m_boundLists->lists.insert(this).second) m_heard.push_back(effect);
+    if (hears(effect)) return;
+    EffectRegistration *r = &m_firstRegistration;
+    if (r->effect) {
+        m_moreRegistrations.push_back(std::make_unique<EffectRegistration>());
+        r = m_moreRegistrations.back().get();
+    }
+    r->list = this;
+    effect->m_boundLists->link(r, effect);
 }
 
 void NodeEffectsImpl::stopListening()
 {
-    for (Effect *effect : m_heard) effect->m_boundLists->lists.erase(this);
-    m_heard.clear();
-}
-
-void NodeEffectsImpl::effectDestroyed(Effect const *effect)
-{
-    m_heard.erase(std::remove(m_heard.begin(), m_heard.end(), effect), m_heard.end());
+    if (m_firstRegistration.effect) m_firstRegistration.effect->m_boundLists->unlink(&m_firstRegistration);
+    for (auto const &r : m_moreRegistrations)
+        if (r->effect) r->effect->m_boundLists->unlink(r.get());
+    m_moreRegistrations.clear();
 }
 
 void NodeEffectsImpl::add(Effect *effect)

@@ -1,6 +1,6 @@
 #pragma once
-// NodeEffectsImpl: the list behind NodeEffects, owned by its node (see
-// NodeEffectsTable) and shared, counted, with every handle. The operations
+// NodeEffectsImpl: the list behind NodeEffects, made by its node on first
+// demand and shared, counted, with every handle. The operations
 // are NodeEffects'; the rest is what the node calls:
 //   draw()                         after the node painted its content,
 //   computeEffectsMaximumBounds()  to widen the node's bounds,
@@ -20,6 +20,9 @@
 #include <Effect>
 
 #include "GLOX/ReferencedTemplate.h"
+#include "effects/EffectBoundLists.h"
+
+#include <memory>
 
 #include <vector>
 
@@ -80,8 +83,8 @@ public:
     // A registered effect changed: the node is repainted and its bounds
     // renewed.
     void onEffectPropertyChanged(GLUV::Packet packet);
-    // A registered effect is being destroyed: forget it.
-    void effectDestroyed(Effect const *effect);
+    // Whether `effect` tells this list of its changes.
+    bool hears(Effect const *effect) const;
 
 protected:
     void repaintNode();
@@ -102,8 +105,10 @@ private:
     bool m_intensiveProcessing = false;
     NodeImpl *m_node;
     std::vector<NodeBoundEffect *> m_effects;
-    // The effects this list is registered with.
-    std::vector<Effect *> m_heard;
+    // Its registrations with effects: the first in place (one effect is
+    // the usual case), the rest on the heap.
+    EffectRegistration m_firstRegistration;
+    std::vector<std::unique_ptr<EffectRegistration>> m_moreRegistrations;
 };
 
 // Throw VOR2_InvalidEffectHandle for a null effect, VOR2_InvalidEffectID

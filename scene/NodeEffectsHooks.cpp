@@ -1,26 +1,34 @@
-// NodeImpl: where a node meets its effects: the list kept for it in
-// NodeEffectsTable, the double dispatch that paints one effect on it, and
+// NodeImpl: where a node meets its effects: its list, made on first
+// demand, the double dispatch that paints one effect on it, and
 // the scene's selection effect shown while the node is selected.
 
 #include <Node>
 #include <NodeEffects>
 
 #include "effects/NodeEffectsImpl.h"
-#include "effects/NodeEffectsTable.h"
 #include "scene/NodeImpl.h"
 #include "scene/ScenePrivate.h"
 
-namespace VOR2 {
+#include <utility>
 
-NodeEffectsImpl *NodeImpl::getEffectsImpl() const
-{
-    return m_hasEffects ? NodeEffectsTable::instance().find(this) : nullptr;
-}
+namespace VOR2 {
 
 NodeEffectsImpl *NodeImpl::obtainEffectsImpl()
 {
-    m_hasEffects = true;
-    return NodeEffectsTable::instance().obtain(this);
+    if (!m_effects) {
+        m_effects = new NodeEffectsImpl(this);
+        m_effects->ref();
+    }
+    return m_effects;
+}
+
+void NodeImpl::releaseEffects()
+{
+    // Handles may keep the list: it forgets the node, which is going.
+    if (NodeEffectsImpl *effects = std::exchange(m_effects, nullptr)) {
+        effects->onNodeInvalidated();
+        effects->unref();
+    }
 }
 
 void NodeImpl::renderEffect(Effect *effect, QPainter *painter, QStyleOptionGraphicsItem const *option,

@@ -7,7 +7,6 @@
 #include <WeakRef>
 
 #include "effects/NodeEffectsImpl.h"
-#include "effects/NodeEffectsTable.h"
 #include "scene/CountRecord.h"
 #include "scene/GraphicsItemCasterTable.h"
 #include "scene/NodeCursorTable.h"
@@ -430,10 +429,7 @@ void NodeImpl::releaseForSceneDeath()
 
 void NodeImpl::releaseTables()
 {
-    if (m_hasEffects) {
-        m_hasEffects = false;
-        NodeEffectsTable::instance().nodeDestroyed(this);
-    }
+    releaseEffects();
     m_viewCache.clear();
     clearBehavior();
     NodeCursorTable::instance().remove(this);

@@ -200,9 +200,11 @@ public:
 
     // --- Effects --------------------------------------------------------
     // The node's effect list, or null when it never asked for one.
-    NodeEffectsImpl *getEffectsImpl() const;
+    NodeEffectsImpl *getEffectsImpl() const { return m_effects; }
     // The node's effect list, made on first demand.
     NodeEffectsImpl *obtainEffectsImpl();
+    // Tells the list, if any, that the node is gone, and lets it go.
+    void releaseEffects();
     // Paints `effect` on this node: each kind calls the effect's render
     // method for its kind and falls back to renderEffectGeneric when that
     // answers false. The default, for kinds the effect cannot tell apart,
@@ -290,9 +292,9 @@ private:
     QRectF m_itemRect;
     std::uint64_t m_siblingStamp = 0;
     bool m_updateHandlerOverridden = false;
-    // Whether NodeEffectsTable holds a list for this node.
-    bool m_hasEffects = false;
     NodeUpdateHandler *m_updateHandler = nullptr;
+    // The effect list, counted; null until first asked for.
+    NodeEffectsImpl *m_effects = nullptr;
     GLOX::Holder<Node::CustomHitTestFunctor> m_customHitTest;
 };
 

@@ -221,3 +221,28 @@ TEST(ScratchBuffer, GrowsToTheSizeAskedOnlyWhenTooSmallAndClearsOnlyANewImage)
     QImage &tall = RecordingEffect::getScratchBuffer({10, oldHeight}, false);
     EXPECT_EQ(tall.size(), QSize(10, oldHeight));
 }
+
+TEST_F(EffectList, ARemovedEffectStillRepaintsItsNodeAndMayDieBeforeIt)
+{
+    RectNode n = added(solidRect({10, 10, 10, 10}, Qt::blue));
+    RectNode m = added(solidRect({30, 10, 10, 10}, Qt::blue));
+    GLOX::Holder<RecordingEffect> removed(new RecordingEffect("gone")), kept(new RecordingEffect("kept"));
+    n.getEffects().add(removed.get());
+    n.getEffects().add(kept.get());
+    m.getEffects().add(kept.get());
+    n.getEffects().remove(removed.get());
+    runHostLoopTurn();
+    removed->changed();
+    EXPECT_EQ(pendingKind(*scene, n), int(PendingChangeKind::Geometry)) << "still heard, deliberately";
+    EXPECT_EQ(pendingKind(*scene, m), -1);
+
+    removed.reset(); // dies while the list that heard it lives
+    runHostLoopTurn();
+    kept->changed();
+    EXPECT_EQ(pendingKind(*scene, n), int(PendingChangeKind::Geometry));
+    EXPECT_EQ(pendingKind(*scene, m), int(PendingChangeKind::Geometry));
+    scene->removeNode(n);
+    n = RectNode();
+    kept->changed(); // n's list is gone; m still hears
+    EXPECT_EQ(kept->refCount(), 2u);
+}
