@@ -66,19 +66,6 @@ protected:
 
 } // namespace
 
-TEST_F(Marquee, SelectsWhatTheBandTouchesWhileItIsDragged)
-{
-    drag({{-10, 60}, {10, 40}});
-    EXPECT_EQ(selected(), (std::vector<bool>{true, false, false}));
-    moveTo({110, 40});
-    EXPECT_EQ(selected(), (std::vector<bool>{true, true, false}));
-    moveTo({60, 40});
-    EXPECT_EQ(selected(), (std::vector<bool>{true, false, false})) << "left behind by the band";
-    releaseAt({60, 40});
-    EXPECT_EQ(scene->getToolByRole(MarqueeSelectionTool::staticGetDefaultRole()), nullptr);
-    EXPECT_EQ(selected(), (std::vector<bool>{true, false, false}));
-}
-
 TEST_F(Marquee, AShiftDragAddsToTheSelectionAndNeverTakesFromIt)
 {
     nodes[2].setSelected(true);

@@ -1,5 +1,6 @@
 // The move tool on one thread: which nodes a move takes, the arrow keys'
-// nudge, a drag and its undoing by Escape, and the client's switch.
+// nudge, and the client's switch. The drag runs through a real canvas in
+// tests/widget.
 
 #include <KeyEvent>
 #include <MouseEvent>
@@ -15,9 +16,9 @@ namespace {
 
 using P = GLOX::GLPoint<double>;
 
-MouseEvent mouse(EventType type, P p, Qt::MouseButton button = Qt::LeftButton)
+MouseEvent mouse(EventType type, P p)
 {
-    return MouseEvent(type, nullptr, p, p, p, 0, button, button, {});
+    return MouseEvent(type, nullptr, p, p, p, 0, Qt::NoButton, {}, {});
 }
 
 KeyEvent key(Qt::Key k, Qt::KeyboardModifiers mods = {}, bool repeat = false)
@@ -43,13 +44,6 @@ protected:
         n.setSelectable(true);
         n.setMovable(true);
         return n;
-    }
-    void send(EventType type, P p, Qt::MouseButton button = Qt::LeftButton)
-    {
-        MouseEvent e = mouse(type, p, button);
-        if (type == EventType::MousePress) scene->handleMousePressEvent(e);
-        if (type == EventType::MouseMove) scene->handleMouseMoveEvent(e);
-        if (type == EventType::MouseRelease) scene->handleMouseReleaseEvent(e);
     }
     void press(Qt::Key k, Qt::KeyboardModifiers mods = {}, bool repeat = false)
     {
@@ -115,36 +109,4 @@ TEST_F(MoveTool, MovesTheSelectedMovableNodesButNotAChildWhoseParentMoves)
     press(Qt::Key_Right, {}, true);
     EXPECT_EQ(a.getScenePosition(), P(2, 10)) << "a held arrow repeats";
     child.unparent();
-}
-
-TEST_F(MoveTool, ADragMovesTheSelectionTogetherAndEscapePutsItBack)
-{
-    a.setSelected(true);
-    send(EventType::MousePress, {110, 10}, Qt::LeftButton);
-    // Shift was not held: the press on b replaced the selection.
-    EXPECT_FALSE(a.isSelected());
-    send(EventType::MouseRelease, {110, 10});
-    a.setSelected(true);
-
-    send(EventType::MousePress, {110, 10});
-    send(EventType::MouseMove, {111, 10});
-    EXPECT_EQ(b.getScenePosition(), P(100, 0)) << "not past the threshold";
-    send(EventType::MouseMove, {140, 25});
-    EXPECT_EQ(a.getScenePosition(), P(30, 15));
-    EXPECT_EQ(b.getScenePosition(), P(130, 15));
-    send(EventType::MouseMove, {90, 5});
-    EXPECT_EQ(a.getScenePosition(), P(-20, -5));
-    press(Qt::Key_Escape);
-    EXPECT_EQ(a.getScenePosition(), P(0, 0));
-    EXPECT_EQ(b.getScenePosition(), P(100, 0));
-    send(EventType::MouseMove, {150, 50});
-    EXPECT_EQ(b.getScenePosition(), P(100, 0)) << "the drag is over";
-    send(EventType::MouseRelease, {150, 50});
-
-    send(EventType::MousePress, {10, 10});
-    send(EventType::MouseMove, {20, 30});
-    send(EventType::MouseRelease, {20, 30});
-    press(Qt::Key_Escape);
-    EXPECT_EQ(a.getScenePosition(), P(10, 20)) << "a finished drag stays";
-    EXPECT_EQ(b.getScenePosition(), P(110, 20));
 }

@@ -134,39 +134,6 @@ TEST_F(SelectionToolTable, AMovableNodeIsSelectedAtThePressAndAnOnlySelectableOn
     EXPECT_EQ(selected(), (std::vector<bool>{false, true, false, false}));
 }
 
-TEST_F(SelectionToolTable, ShiftExtendsAndAShiftClickOnASelectedNodeTakesItOut)
-{
-    click({10, 10});
-    click({110, 10}, Qt::ShiftModifier);
-    click({310, 10}, Qt::ShiftModifier);
-    EXPECT_EQ(selected(), (std::vector<bool>{true, true, false, true}));
-
-    click({110, 10}, Qt::ShiftModifier);
-    EXPECT_EQ(selected(), (std::vector<bool>{true, false, false, true}));
-
-    press({10, 10}, Qt::LeftButton, Qt::ShiftModifier);
-    release({10, 10});
-    EXPECT_EQ(selected(), (std::vector<bool>{true, false, false, true})) << "Shift at the press only keeps it";
-
-    click({10, 10});
-    EXPECT_EQ(selected(), (std::vector<bool>{true, false, false, true})) << "a plain click on a selected node";
-
-    click({110, 10}, Qt::ControlModifier);
-    EXPECT_EQ(selected(), (std::vector<bool>{false, true, false, false})) << "Control does not extend";
-}
-
-TEST_F(SelectionToolTable, APressOnEmptySpaceClearsTheSelectionAndFocusUnlessShiftIsHeld)
-{
-    free.setSelected(true);
-    press({500, 500}, Qt::LeftButton, Qt::ShiftModifier);
-    release({500, 500});
-    EXPECT_TRUE(free.isSelected());
-
-    press({500, 500});
-    EXPECT_FALSE(free.isSelected()) << "at the press";
-    release({500, 500});
-}
-
 TEST_F(SelectionToolTable, ADragPastTwoPixelsOnEmptySpaceHandsOverToTheMarquee)
 {
     press({500, 500});

@@ -1,7 +1,7 @@
 // Selecting through the real input path: Qt events played into a shown
 // canvas reach the scene's default selection tool on the host thread, and
-// the result shows in the canvas's pixels. Also the marquee's band and the
-// move tool.
+// the result shows in the canvas's pixels. Also the marquee's band, the
+// move tool and the context menus the tool asks for.
 
 #include <GLCanvas>
 #include <HostRuntime>
@@ -13,6 +13,7 @@
 #include "support/InputPlayback.h"
 #include "support/NodeStyles.h"
 #include "support/PixelCompare.h"
+#include "support/RecordingTool.h"
 #include "widget/Rendering.h"
 #include "widget/SceneServer.h"
 
@@ -180,4 +181,27 @@ TEST_F(SelectingCanvas, TheMoveToolDragsTwoSelectedNodesAndEscapePutsThemBack)
     EXPECT_EQ(nodes[1].getPosition(), P(60, 30)) << "a released drag stays";
     input.keyPress(Qt::Key_Left, {}, Qt::ShiftModifier);
     EXPECT_EQ(nodes[0].getPosition(), P(10, 30)) << "Shift and an arrow: ten units";
+}
+
+TEST_F(SelectingCanvas, TheMenuKeyAndARightClickAskForAMenuWhereTheUserLooks)
+{
+    GLOX::Holder<RecordingTool> menus(new RecordingTool("menus"));
+    scene->addTool(menus.get()); // sees what the selection tool leaves, and the menus
+    auto lastMenuAt = [&]() -> std::optional<P> {
+        for (auto r = menus->log->rbegin(); r != menus->log->rend(); ++r)
+            if (r->type == EventType::ContextMenu) return r->scenePos;
+        return std::nullopt;
+    };
+
+    input.keyPress(Qt::Key_Menu);
+    P const extents = canvas.getViewExtents();
+    EXPECT_EQ(lastMenuAt(), P(extents.x / 4, extents.y / 4)) << "nothing selected: the centre of the view";
+
+    nodes[1].setSelected(true);
+    input.keyPress(Qt::Key_Menu);
+    EXPECT_EQ(lastMenuAt(), P(60, 20)) << "at the selected node";
+
+    input.press(at({150, 150}), Qt::RightButton);
+    input.release(at({150, 150}), Qt::RightButton);
+    EXPECT_EQ(lastMenuAt(), P(150, 150)) << "at the pointer";
 }
