@@ -2,6 +2,11 @@
 
 #include "scene/ScenePrivate.h"
 
+#include <MarqueeSelectionTool>
+#include <Scene>
+#include <SelectionTool>
+#include <ToolConstructor>
+
 #include "ut/Assert.h"
 
 namespace VOR2 {
@@ -9,7 +14,12 @@ namespace VOR2 {
 // Each tool's constructor joins the factory as that tool is built: the
 // zoom wheel, pan-zoom, cursor change, selection, text selection, marquee
 // and resize tools, in this order.
-void ScenePrivate::initializeToolFactory() {}
+void ScenePrivate::initializeToolFactory()
+{
+    Scene *scene = Scene::of(this);
+    m_toolFactory.addToolConstructor(new ToolConstructor<SelectionTool, Scene *>(scene));
+    m_toolFactory.addToolConstructor(new ToolConstructor<MarqueeSelectionTool, Scene *>(scene));
+}
 
 // A new scene stacks the cursor change, zoom wheel and selection tools, the
 // last on top, by role. Roles the factory does not know yet are left out
