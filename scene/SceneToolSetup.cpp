@@ -2,6 +2,8 @@
 
 #include "scene/ScenePrivate.h"
 
+#include <CursorChangeTool>
+
 #include "ut/Assert.h"
 
 namespace VOR2 {
@@ -9,7 +11,10 @@ namespace VOR2 {
 // Each tool's constructor joins the factory as that tool is built: the
 // zoom wheel, pan-zoom, cursor change, selection, text selection, marquee
 // and resize tools, in this order.
-void ScenePrivate::initializeToolFactory() {}
+void ScenePrivate::initializeToolFactory()
+{
+    m_toolFactory.addToolConstructor(new ToolConstructor<CursorChangeTool, Scene *>(m_scene));
+}
 
 // A new scene stacks the cursor change, zoom wheel and selection tools, the
 // last on top, by role. Roles the factory does not know yet are left out
