@@ -3,6 +3,7 @@
 #include "scene/ScenePrivate.h"
 
 #include <CursorChangeTool>
+#include <TextSelectionTool>
 
 #include "ut/Assert.h"
 
@@ -14,6 +15,7 @@ namespace VOR2 {
 void ScenePrivate::initializeToolFactory()
 {
     m_toolFactory.addToolConstructor(new ToolConstructor<CursorChangeTool, Scene *>(m_scene));
+    m_toolFactory.addToolConstructor(new ToolConstructor<TextSelectionTool, Scene *>(m_scene));
 }
 
 // A new scene stacks the cursor change, zoom wheel and selection tools, the
