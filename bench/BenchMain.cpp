@@ -66,6 +66,7 @@ void registerAll(Options const &o)
             int it = n <= 1000 ? 8 : n <= 10000 ? 4 : 2;
             registerLifecycle(w, n, 1, r);
             registerQueries(w, n, it, r);
+            if (w == Workload::W1) registerHover(w, n, it, r);
             registerRenders(w, n, it, r);
             registerServer(w, n, it, r);
             if (w == Workload::W1 && n == sizes.back()) registerGuiPaint(w, n, 8, r);

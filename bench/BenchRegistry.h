@@ -18,6 +18,7 @@ void registerBench(std::string const &group, Workload w, int n, int iterations, 
 
 void registerLifecycle(Workload w, int n, int iterations, int repetitions);
 void registerQueries(Workload w, int n, int iterations, int repetitions);
+void registerHover(Workload w, int n, int iterations, int repetitions);
 void registerRenders(Workload w, int n, int iterations, int repetitions);
 void registerServer(Workload w, int n, int iterations, int repetitions);
 void registerGuiPaint(Workload w, int n, int iterations, int repetitions);

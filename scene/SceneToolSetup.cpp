@@ -2,9 +2,11 @@
 
 #include "scene/ScenePrivate.h"
 
+#include <CursorChangeTool>
 #include <MarqueeSelectionTool>
 #include <Scene>
 #include <SelectionTool>
+#include <TextSelectionTool>
 #include <ToolConstructor>
 
 #include "ut/Assert.h"
@@ -17,7 +19,9 @@ namespace VOR2 {
 void ScenePrivate::initializeToolFactory()
 {
     Scene *scene = Scene::of(this);
+    m_toolFactory.addToolConstructor(new ToolConstructor<CursorChangeTool, Scene *>(scene));
     m_toolFactory.addToolConstructor(new ToolConstructor<SelectionTool, Scene *>(scene));
+    m_toolFactory.addToolConstructor(new ToolConstructor<TextSelectionTool, Scene *>(scene));
     m_toolFactory.addToolConstructor(new ToolConstructor<MarqueeSelectionTool, Scene *>(scene));
 }
 

@@ -52,6 +52,18 @@ void GLCanvas::setScene(Scene *scene)
                                   GLOX::Holder<Layer>(new Layer(scene, LayerStack::baseLayerId())));
 }
 
+void GLCanvas::setCursor(GLOX::Cursor const &cursor)
+{
+    GLOX::Cursor const wanted = cursor.isValid() ? cursor : GLOX::Cursor();
+    if (wanted == d->ownCursor) return;
+    d->ownCursor = wanted;
+    d->updateCursor();
+}
+
+void GLCanvas::unsetCursor() { setCursor(GLOX::Cursor()); }
+bool GLCanvas::hasCursor() const { return d->ownCursor.isValid(); }
+GLOX::Cursor GLCanvas::getCursor() const { return d->ownCursor; }
+
 ViewInfo GLCanvas::getViewInfo() const { return d->server.getViewInfo(); }
 
 GLCanvas::Rect GLCanvas::getMargins() const { return d->server.getMargins(); }

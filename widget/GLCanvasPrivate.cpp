@@ -63,6 +63,7 @@ void GLCanvasPrivate::updateCursor()
         Scene *scene = layerStack.getLayer(i)->getScene();
         if (scene && scene->hasToolOverrideCursor()) cursor = scene->getToolOverrideCursor();
     }
+    if (!cursor.isValid()) cursor = ownCursor;
     canvas->getEmitters().toolCursorChanged.send(cursor);
 }
 

@@ -37,12 +37,16 @@ public:
     std::unique_ptr<EventDispatcher> dispatcher;
     // The GUI thread's object: it may go first, with its window.
     QPointer<QWidget> widget;
+    // The canvas's own cursor; invalid when unset.
+    GLOX::Cursor ownCursor;
+
+    // The topmost layer's tool override cursor, else the own cursor, or
+    // none, on the widget.
+    void updateCursor();
 
 private:
     void onLayerAdded(int index);
     void onLayerRemoved(int index);
-    // The topmost layer's tool override cursor, or none, on the widget.
-    void updateCursor();
 };
 
 } // namespace VOR2
