@@ -2,6 +2,9 @@
 
 #include "scene/ScenePrivate.h"
 
+#include <PanZoomTool>
+#include <ZoomWheelTool>
+
 #include "ut/Assert.h"
 
 namespace VOR2 {
@@ -9,7 +12,11 @@ namespace VOR2 {
 // Each tool's constructor joins the factory as that tool is built: the
 // zoom wheel, pan-zoom, cursor change, selection, text selection, marquee
 // and resize tools, in this order.
-void ScenePrivate::initializeToolFactory() {}
+void ScenePrivate::initializeToolFactory()
+{
+    m_toolFactory.addToolConstructor(new ToolConstructor<ZoomWheelTool, void>());
+    m_toolFactory.addToolConstructor(new ToolConstructor<PanZoomTool, Scene *>(m_scene));
+}
 
 // A new scene stacks the cursor change, zoom wheel and selection tools, the
 // last on top, by role. Roles the factory does not know yet are left out
