@@ -55,28 +55,13 @@ TEST(MomentumSampling, AUniformDragAveragesToItsSpeedAndDecaysToAStop)
     EXPECT_LT(s.magnitudeAt(end + 0.001, 8.0), 2.0);
 }
 
-TEST(MomentumSampling, AQuickPressGivesNearlyTheDragsOwnSpeed)
+TEST(MomentumSampling, TheFirstSampleStartsTheWindowAndSamplesWithinAMillisecondAreDropped)
 {
-    MomentumSampling s;
-    s.sample({0, 0}, 1, WINDOW);
-    for (int i = 1; i <= 10; ++i) s.sample({i * 10.0, 0}, 10, WINDOW);
-    EXPECT_NEAR(s.releaseMagnitude(), 1000.0 * 0.1 / 0.101, 1e-9);
-    s.divideMagnitude(12.0);
-    EXPECT_NEAR(s.releaseMagnitude(), 82.5, 0.01);
-}
+    MomentumSampling first;
+    EXPECT_TRUE(first.sample({50, 50}, 40, WINDOW));
+    EXPECT_FALSE(first.hasSamples());
+    EXPECT_DOUBLE_EQ(first.sampledPeriod(), 0.04);
 
-TEST(MomentumSampling, TheFirstSampleOnlyStartsTheWindow)
-{
-    MomentumSampling s;
-    EXPECT_TRUE(s.sample({50, 50}, 40, WINDOW));
-    EXPECT_FALSE(s.hasSamples());
-    EXPECT_EQ(s.releaseMagnitude(), 0.0);
-    EXPECT_DOUBLE_EQ(s.sampledPeriod(), 0.04);
-    EXPECT_EQ(s.lastLocation(), Point(50, 50));
-}
-
-TEST(MomentumSampling, SamplesWithinAMillisecondAreDropped)
-{
     MomentumSampling s = drag(2, 10, 10);
     double const before = s.releaseMagnitude();
     EXPECT_FALSE(s.sample({500, 500}, 0, WINDOW));
@@ -189,33 +174,6 @@ TEST_F(GlidingController, AReleaseGlidesWithDecayingStepsUntilTheStopVelocity)
     EXPECT_EQ(ended, 1);
     EXPECT_FALSE(momentum.isNotifying());
     EXPECT_FALSE(momentum.hasSamples()) << "the end resets the sampling";
-}
-
-TEST_F(GlidingController, EndingStopsTheGlideAndIsIgnoredWhenIdle)
-{
-    dragRight();
-    momentum.endMomentumNotifications();
-    EXPECT_EQ(ended, 0);
-    EXPECT_TRUE(momentum.hasSamples()) << "nothing happens when no glide runs";
-
-    momentum.beginMomentumNotifications();
-    clock.advance(60);
-    EXPECT_EQ(steps.size(), 2u);
-    momentum.endMomentumNotifications();
-    EXPECT_EQ(ended, 1);
-    clock.advance(500);
-    EXPECT_EQ(steps.size(), 2u) << "no step after the end";
-}
-
-TEST_F(GlidingController, NoGlideWithoutAMeasuredSpeed)
-{
-    clock.advance(5);
-    momentum.sampleLocation({0, 0});
-    momentum.beginMomentumNotifications();
-    EXPECT_FALSE(momentum.isNotifying());
-    EXPECT_EQ(started, 0);
-    clock.advance(100);
-    EXPECT_TRUE(steps.empty());
 }
 
 TEST_F(GlidingController, AZeroDivisorEndsTheGlideInsteadOfGlidingForEver)

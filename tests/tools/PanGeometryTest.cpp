@@ -12,16 +12,13 @@ TEST(PanGeometry, BoundsGrowTheSceneByNineTenthsOfTheViewOnEachSide)
     EXPECT_EQ(panBounds(Rect(0, 0, 400, 300), Rect(50, 50, 100, 200)), Rect(-90, -180, 580, 660));
 }
 
-TEST(PanGeometry, AFreeStepPassesUnchanged)
+TEST(PanGeometry, AFreeStepPassesAndOneAcrossAnEdgeStopsAtIt)
 {
     // View [100, 200] in bounds [0, 500].
     EXPECT_EQ(limitDelta(30, 100, 200, 0, 500), 30);
     EXPECT_EQ(limitDelta(-30, 100, 200, 0, 500), -30);
     EXPECT_EQ(limitDelta(100, 100, 200, 0, 500), 100) << "exactly to the low edge";
-}
-
-TEST(PanGeometry, AStepAcrossAnEdgeStopsAtIt)
-{
+    // A step across an edge stops at it.
     EXPECT_EQ(limitDelta(150, 100, 200, 0, 500), 100) << "low edge";
     EXPECT_EQ(limitDelta(-400, 100, 200, 0, 500), -300) << "high edge";
     EXPECT_EQ(limitDelta(10, 0, 100, 0, 500), 0) << "already at the edge";

@@ -1,7 +1,6 @@
 // The pan tool's course through its gestures, played as synthetic events on
 // a host loop of the test's own under a manual clock: when it wakes, glides,
-// finishes and zooms; and the wheel tool's zoom factor. The tools of a fresh
-// scene.
+// and finishes. The tools of a fresh scene.
 
 #include <GLCanvas>
 #include <KeyEvent>
@@ -15,7 +14,6 @@
 #include "GLServices/ManualClock.h"
 
 #include <gtest/gtest.h>
-#include <cmath>
 
 using namespace VOR2;
 
@@ -77,30 +75,12 @@ TEST_F(PanGestures, AMiddleClickWithoutAMoveWakesTheToolUntilTheRelease)
     EXPECT_EQ(tool->overrideCursor(), GLOX::Cursor(Qt::OpenHandCursor));
 }
 
-TEST_F(PanGestures, AMiddleDragPansGlidesAndFinishesWithTheGlide)
-{
-    press(50, 50, Qt::MiddleButton);
-    dragRight(50, 50);
-    EXPECT_EQ(canvas.getSceneRectInView().x, 50.0) << "100 pixels at scale 2 moved the view 50 units left";
-    release(150, 50, Qt::RightButton);
-    EXPECT_TRUE(tool->isPanning()) << "another button does not end the pan";
-    release(150, 50, Qt::MiddleButton);
-    EXPECT_FALSE(tool->isDone());
-    EXPECT_TRUE(tool->willFinishAfterMomentum());
-    EXPECT_TRUE(tool->momentum().isNotifying());
-    double const released = canvas.getSceneRectInView().x;
-    clock.advance(100);
-    EXPECT_LT(canvas.getSceneRectInView().x, released) << "the glide goes on in the drag's direction";
-    clock.advance(1000);
-    EXPECT_FALSE(tool->momentum().isNotifying());
-    EXPECT_TRUE(tool->isDone());
-}
-
 TEST_F(PanGestures, AClickDuringTheGlideStopsItAndEndsTheTool)
 {
     press(50, 50, Qt::MiddleButton);
     dragRight(50, 50);
     release(150, 50, Qt::MiddleButton);
+    EXPECT_TRUE(tool->willFinishAfterMomentum());
     clock.advance(30);
     EXPECT_FALSE(press(150, 50, Qt::LeftButton)) << "the click goes on to the tools below";
     EXPECT_FALSE(tool->momentum().isNotifying());
@@ -142,14 +122,6 @@ TEST_F(PanGestures, SpaceUpDuringAGlideStopsIt)
     key(EventType::KeyRelease);
     EXPECT_FALSE(tool->momentum().isNotifying());
     EXPECT_TRUE(tool->isDone());
-}
-
-TEST(ZoomWheelTool, ZoomsByAFactorOf1Point3PerNotch)
-{
-    EXPECT_DOUBLE_EQ(ZoomWheelTool::zoomFactor(15), 1.3);
-    EXPECT_DOUBLE_EQ(ZoomWheelTool::zoomFactor(-15), 1.0 / 1.3);
-    EXPECT_DOUBLE_EQ(ZoomWheelTool::zoomFactor(30), 1.69);
-    EXPECT_EQ(ZoomWheelTool::zoomFactor(0), 1.0);
 }
 
 TEST(SceneTools, AFreshSceneZoomsOnTheWheelAndMakesPanToolsByRole)

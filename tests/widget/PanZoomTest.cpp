@@ -113,29 +113,6 @@ TEST_F(PanZoomCanvas, AMiddleDragPansByTheDraggedDistanceThenGlidesToRest)
     EXPECT_EQ(canvas.getSceneServer().rendering().view.originX, viewX()) << "the pixels show where it came to rest";
 }
 
-TEST_F(PanZoomCanvas, ADragByHandStopsAtTheMarginWithoutBouncing)
-{
-    ASSERT_TRUE(scene->addToolByRole("PanZoomTool"));
-    double const edge = leftMargin();
-    // Slowly: pauses longer than the averaging window leave no glide.
-    input.press({20, 100}, Qt::MiddleButton);
-    clock->advance(400);
-    input.move({180, 100}, Qt::MiddleButton);
-    EXPECT_EQ(viewX(), -160.0);
-    clock->advance(400);
-    input.move({240, 130}, Qt::MiddleButton);
-    EXPECT_EQ(viewX(), edge) << "stopped exactly at the margin";
-    clock->advance(400);
-    input.move({260, 150}, Qt::MiddleButton);
-    EXPECT_EQ(viewX(), edge) << "no further out";
-    clock->advance(400);
-    input.move({250, 150}, Qt::MiddleButton);
-    EXPECT_EQ(viewX(), edge + 10) << "back in at once";
-    input.release({250, 150}, Qt::MiddleButton);
-    clock->advance(1000);
-    EXPECT_EQ(viewX(), edge + 10) << "no bounce";
-}
-
 TEST_F(PanZoomCanvas, AGlideIntoTheMarginBouncesBack)
 {
     ASSERT_TRUE(scene->addToolByRole("PanZoomTool"));
