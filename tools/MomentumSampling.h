@@ -14,8 +14,8 @@ class MomentumSampling {
 public:
     using Point = GLOX::GLPoint<double>;
 
-    // The base of the decay, kept at this truncated value on purpose so
-    // that the glide matches the one users know to the last digit.
+    // The base of the decay: deliberately this truncated value, not the
+    // exact e, so that glide lengths stay the same to the last digit.
     static constexpr double E = 2.718281828;
 
     // Feeds location p, seen elapsedMs after the previous sample (or the
