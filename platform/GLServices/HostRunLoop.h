@@ -64,7 +64,7 @@ public:
     void quit();
 
     // Host thread: the timers' clock (a ManualClock's time while one exists).
-    Milliseconds now() const;
+    Milliseconds now() const override;
     // Any thread: the host thread's GLUV object.
     GLUV::Thread *thread() const { return m_thread; }
 

@@ -5,6 +5,7 @@
 
 #include "GLServices/TarvoTimer.h"
 
+#include <chrono>
 #include <memory>
 
 namespace GLServices {
@@ -19,6 +20,10 @@ public:
     // Host thread: a new, stopped timer. It ticks only while the service
     // that made it lives; after that its calls do nothing.
     virtual std::shared_ptr<TarvoTimer> createTimer() = 0;
+    // Host thread: the time, in milliseconds from an arbitrary start, of the
+    // clock its timers follow. Code that measures time between its own
+    // ticks reads this clock, so that it stays in step with them.
+    virtual std::chrono::milliseconds now() const = 0;
 };
 
 } // namespace GLServices

@@ -112,6 +112,7 @@ struct ScrollingCanvas : ::testing::Test {
         canvas.showScenePointAtViewPointAtScale({400, 400}, {0, 0}, 1.0);
         ASSERT_TRUE(HostRuntime::loop().runUntil(
             [&] { return canvas.getSceneServer().rendering().view.originX == 400; }, 5000ms));
+        scene->clearToolStack(); // the default tools would zoom on the wheel
         scene->addTool(tool.get());
     }
     void TearDown() override { input.hide(); }

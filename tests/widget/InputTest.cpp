@@ -39,6 +39,7 @@ struct ZoomedCanvas : ::testing::Test {
         canvas.showScenePointAtViewPointAtScale({100, 100}, {0, 0}, 2.0);
         ASSERT_TRUE(HostRuntime::loop().runUntil([&] { return canvas.getSceneServer().rendering().view.scale == 2.0; },
                                                  5000ms));
+        scene->clearToolStack(); // the default tools would zoom on the wheel
         scene->addTool(tool.get());
     }
     void TearDown() override { input.hide(); }
