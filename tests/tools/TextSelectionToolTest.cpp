@@ -55,6 +55,7 @@ struct Editing : ::testing::Test {
     {
         scene->addNode(edited);
         scene->addNode(other);
+        scene->clearToolStack(); // the editing tool over a recorder only
         scene->addTool(below.get());
         tool = dynamic_cast<TextSelectionTool *>(scene->addToolByRole("TextSelectionTool"));
         ASSERT_NE(tool, nullptr) << "a fresh scene's factory makes the editing tool";
