@@ -53,9 +53,14 @@ GLOX::Holder<Image> swatch()
     return Image::fromQImage(image);
 }
 
+// Every gallery node can be selected and dragged, and shows a pointing
+// hand.
 void add(Scene &scene, Node const &node, DrawStyle const &s)
 {
     node.setDrawStyle(s);
+    node.setSelectable(true);
+    node.setMovable(true);
+    node.setCursor(GLOX::Cursor(Qt::PointingHandCursor));
     scene.addNode(node);
 }
 
@@ -115,6 +120,8 @@ void fillsRow(Scene &scene)
     ImageNode picture(swatch());
     picture.setPosition({cell(4, 3).x, cell(4, 3).y});
     picture.setSize(BOX, BOX * 0.75);
+    picture.setSelectable(true);
+    picture.setMovable(true);
     scene.addNode(picture);
 }
 // Outlines inside, on and outside the edge of a rectangle, a star and a
@@ -142,14 +149,15 @@ void effectsRow(Scene &scene)
 
     RectNode selected(cell(4, 4));
     add(scene, selected, style(thin, Fill(GLOX::Color(0.55, 0.7, 1.0))));
-    selected.setSelectable(true);
     selected.setSelected(true);
+    installFocusIndicators(selected);
 }
 } // namespace
 
 void buildGallery(Scene &scene)
 {
     scene.setBackground(Background(GLOX::Color(1, 1, 1)));
+    scene.useMoveSelectionTool(); // drags move the selection; arrows nudge it
     shapesRow(scene);
     strokeStylesRow(scene);
     scaleFunctionsRow(scene);

@@ -84,7 +84,7 @@ void showInWindow(VOR2::Scene *scene, std::string const &screenshot)
     QWidget *window = canvas.getWidget();
     VOR2::HostRuntime::showWindow(canvas, 900, 600, "VOR2 gallery");
     canvas.zoomToSceneRect();
-    // Pointer position and node kind in the title, wheel zoom, a hand over nodes.
+    // Pointer position and node kind in the title; the scene's own tools do the rest.
     GLOX::Holder<demo::DemoInputTool> tool(new demo::DemoInputTool(scene, window));
     scene->addTool(tool.get());
     if (!screenshot.empty()) {
@@ -98,8 +98,10 @@ void showInWindow(VOR2::Scene *scene, std::string const &screenshot)
         scene->removeTool(tool.get());
         return;
     }
-    std::printf("A window shows the gallery (the wheel zooms, the title tells what is under the pointer); close it "
-                "to end.\n");
+    std::printf("A window shows the gallery: click selects (Shift adds), a drag on empty space draws a marquee, a "
+                "drag on a selected node moves the selection (Escape puts it back, arrows nudge it), the middle "
+                "button or Space with the left pans and coasts, the wheel zooms about the pointer, a tap of Space "
+                "shows the whole scene. Close it to end.\n");
     VOR2::HostRuntime::runWhileWindowsShown();
     scene->removeTool(tool.get());
 }
