@@ -7,6 +7,7 @@
 #include <LineNode>
 #include <RectNode>
 #include <Scene>
+#include <ShapeNode>
 
 #include "nodes/LineNodeImpl.h"
 #include "support/NodeStyles.h"
@@ -105,6 +106,57 @@ TEST(LineNode, BackoffShortensTheDrawnLine)
     EXPECT_EQ(drawnLength(), full - 5);
     line.setStartDecoration(backingOff(3.0));
     EXPECT_EQ(drawnLength(), full - 8);
+}
+
+// An outlined arrow head on a line turned through every quadrant: the line
+// stops at the head's base, so none of it shows inside the head or beyond
+// its tip, at scales 1 and 4. The backoff turns with the head; turned the
+// other way, the line would run past the tip by the backoff.
+TEST(LineEndDecoration, AnArrowHeadCapsARotatedLineWithNoLineThroughIt)
+{
+    double const length = 40, backoff = 8;
+    QPainterPath arrow; // tip at the local origin, pointing along +x
+    arrow.moveTo(0, 0);
+    arrow.lineTo(-backoff, -4);
+    arrow.lineTo(-backoff, 4);
+    arrow.closeSubpath();
+    for (double degrees : {30.0, 90.0, 200.0, -60.0}) {
+        for (double scale : {1.0, 4.0}) {
+            SCOPED_TRACE(testing::Message() << degrees << " degrees at scale " << scale);
+            P dir(std::cos(qDegreesToRadians(degrees)), std::sin(qDegreesToRadians(degrees)));
+            P start(50, 50), end = start + dir * length;
+            GLOX::Holder<Scene> scene = Scene::createScene();
+            LineNode line(start, end);
+            line.setStroke(Stroke(GLOX::fromQColor(Qt::red), 2.0, SolidLine, FlatCap, MiterJoin,
+                                  ConstantLodScale::instance()));
+            ShapeNode head{GLOX::Shape(arrow)};
+            head.setDrawStyle(DrawStyle(constantStroke(1.0), Fill::NoFill()));
+            LineEndDecoration decoration(head);
+            decoration.setLineBackoff(backoff);
+            line.setEndDecoration(decoration);
+            scene->addNode(line);
+
+            QImage image = transparentImage(int(100 * scale), int(100 * scale));
+            scene->render(image, GLOX::GLRect<double>(0, 0, 100, 100),
+                          GLOX::GLRect<double>(0, 0, image.width(), image.height()));
+            // How far along the line, in scene units, the red reaches.
+            double reach = -1e9;
+            int blackNearTip = 0;
+            for (int y = 0; y < image.height(); ++y) {
+                for (int x = 0; x < image.width(); ++x) {
+                    QRgb px = image.pixel(x, y);
+                    P at((x + 0.5) / scale, (y + 0.5) / scale);
+                    double along = (at.x - start.x) * dir.x + (at.y - start.y) * dir.y;
+                    if (qAlpha(px) > 128 && qRed(px) > 200 && qGreen(px) < 60) reach = std::max(reach, along);
+                    if (qAlpha(px) > 128 && qRed(px) < 60 && std::hypot(at.x - end.x, at.y - end.y) < 2.0) ++blackNearTip;
+                }
+            }
+            double pixel = 1.5 / scale + 0.5; // the flat end's antialiased edge and the line's half width
+            EXPECT_LE(reach, length - backoff + pixel) << "the line shows inside the head or past its tip";
+            EXPECT_GE(reach, length - backoff - pixel) << "the line stops short of the head";
+            EXPECT_GT(blackNearTip, 0) << "the head's tip is not on the line's end";
+        }
+    }
 }
 
 TEST(LineEndDecoration, DirectionGivesSignedAngleFromANonZeroReference)
