@@ -5,6 +5,7 @@
 #include <CursorChangeTool>
 #include <MarqueeSelectionTool>
 #include <PanZoomTool>
+#include <ResizeBehavior>
 #include <Scene>
 #include <SelectionTool>
 #include <TextSelectionTool>
@@ -27,6 +28,7 @@ void ScenePrivate::initializeToolFactory()
     m_toolFactory.addToolConstructor(new ToolConstructor<SelectionTool, Scene *>(scene));
     m_toolFactory.addToolConstructor(new ToolConstructor<TextSelectionTool, Scene *>(scene));
     m_toolFactory.addToolConstructor(new ToolConstructor<MarqueeSelectionTool, Scene *>(scene));
+    m_toolFactory.addToolConstructor(new ToolConstructor<ResizeBehavior, void>());
 }
 
 // A new scene stacks the cursor change, zoom wheel and selection tools, the
