@@ -383,7 +383,12 @@ void NodeImpl::itemChangeHook(QGraphicsItem::GraphicsItemChange change, QVariant
     case QGraphicsItem::ItemSceneHasChanged:
         if (!getGraphicsItem()->parentItem()) stampSiblingOrder(); // a new top-level item of its scene
         break;
-    case QGraphicsItem::ItemChildAddedChange: layoutContents(); break;
+    case QGraphicsItem::ItemChildAddedChange: {
+        NodeImpl const *child = fromItem(value.value<QGraphicsItem *>());
+        if (child && child->constraints != 0) m_constrainedChildHint = true;
+        layoutContents();
+        break;
+    }
     case QGraphicsItem::ItemSelectedHasChanged: onSelectedHasChanged(value.toBool()); break;
     default: break;
     }
