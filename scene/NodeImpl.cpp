@@ -389,6 +389,11 @@ void NodeImpl::itemChangeHook(QGraphicsItem::GraphicsItemChange change, QVariant
         layoutContents();
         break;
     }
+    case QGraphicsItem::ItemChildRemovedChange:
+        // A composite's bounds are its subtree's: a child leaving any node
+        // of it changes them, and nobody else reports that.
+        if (getOwnUpdateHandler() || m_updateHandlerOverridden) notifyGeometryChanged(false);
+        break;
     case QGraphicsItem::ItemSelectedHasChanged: onSelectedHasChanged(value.toBool()); break;
     default: break;
     }
