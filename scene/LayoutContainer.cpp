@@ -16,6 +16,12 @@ void LayoutItem::layOut(GLOX::GLRect<double> const &rect, GLOX::GLRect<double> c
 void LayoutContainer::layoutContents()
 {
     if (m_layingOut || !hasLayoutItems()) return;
+    layoutItems();
+}
+
+void LayoutContainer::layoutItems()
+{
+    if (m_layingOut) return;
     GLOX::GLRect<double> const rect = getLayoutRect();
     if (isAllZero(rect)) return;
     if (!mayHaveConstrainedItems()) {

@@ -33,6 +33,9 @@ public:
     // the items moved, so that the next layout does not move them a second
     // time for their own moves.
     void layoutContents();
+    // The same, for a container known to have items (one just joined): it
+    // does not ask hasLayoutItems, which may cost a look at every item.
+    void layoutItems();
 
     GLOX::GLRect<double> lastRect;
 

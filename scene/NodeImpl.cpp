@@ -386,7 +386,9 @@ void NodeImpl::itemChangeHook(QGraphicsItem::GraphicsItemChange change, QVariant
     case QGraphicsItem::ItemChildAddedChange: {
         NodeImpl const *child = fromItem(value.value<QGraphicsItem *>());
         if (child && child->constraints != 0) m_constrainedChildHint = true;
-        layoutContents();
+        // Qt sorts the children again after each one joins, when asked for
+        // them: a thousand joining must not cost a thousand sorts.
+        layoutItems();
         break;
     }
     case QGraphicsItem::ItemChildRemovedChange:

@@ -259,7 +259,8 @@ protected:
     QPainterPath itemShape();
     bool itemCollidesWithPath(QPainterPath const &path);
     void destroy() override;
-    // Children without constraints cost a layout no walk of them.
+    // Children without constraints cost a layout no walk of them; asking
+    // whether there are children at all costs Qt a sort of them.
     bool hasLayoutItems() override;
     bool mayHaveConstrainedItems() override { return m_constrainedChildHint; }
     void noConstrainedItemsFound() override { m_constrainedChildHint = false; }

@@ -108,6 +108,11 @@ TEST_F(CustomNodes, AStrokeOutlinesACustomNodeAndNeverAContainer)
     EXPECT_TRUE(pixelIs(image, 20, 10, QColor(0, 0, 255), 60)) << "along the top of the bounds";
     EXPECT_TRUE(pixelIs(image, 10, 12, QColor(0, 0, 255), 60)) << "and the left";
     EXPECT_TRUE(pixelIs(image, 11, 11, QColor(255, 255, 255), 60)) << "a disc leaves the box's corner clear";
+    custom.getEffects().clear();
+    QImage const bare = renderScene(*scene, 1.0);
+    custom.setSelectable(true);
+    custom.setSelected(true);
+    EXPECT_NE(renderScene(*scene, 1.0), bare) << "the selection outline shows on a custom node";
     scene->removeNode(custom);
 
     ContainerNode group = added(ContainerNode());
