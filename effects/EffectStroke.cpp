@@ -1,6 +1,7 @@
 #include <EffectStroke>
 
 #include "effects/InsetBand.h"
+#include "nodes/CustomNodeImpl.h"
 #include "scene/NodeImpl.h"
 
 #include <QPainter>
@@ -131,6 +132,13 @@ void EffectStroke::renderEffectGeneric(NodeImpl *node, QPainter *painter, QStyle
 {
     renderPrivate(node->getCachedStrokedOutline(option->levelOfDetail), m_inset,
                   node->getDrawStyle().isAntiAliased(), painter, option, widget);
+}
+
+bool EffectStroke::renderEffectCustom(CustomNodeImpl *node, QPainter *painter, QStyleOptionGraphicsItem const *option,
+                                      QWidget *widget)
+{
+    renderPrivate(node->getCachedStrokedOutline(option->levelOfDetail), m_inset, true, painter, option, widget);
+    return true;
 }
 
 } // namespace VOR2

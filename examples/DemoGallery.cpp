@@ -1,4 +1,5 @@
 #include "DemoGallery.h"
+#include "GalleryContainersRow.h"
 
 #include <VOR2>
 
@@ -163,6 +164,7 @@ void buildGallery(Scene &scene)
     scaleFunctionsRow(scene);
     fillsRow(scene);
     effectsRow(scene);
+    addContainersRow(scene, cell(0, 5).y);
 }
 
 QImage renderAtScale(Scene const &scene, double scale, int margin)

@@ -4,7 +4,11 @@
 
 #include <ConstantInLodScale>
 #include <ConstantLodScale>
+#include <CompositeNode>
 #include <ConstantOutLodScale>
+#include <ContainerNode>
+#include <CustomNode>
+#include <CustomNodePainter>
 #include <EffectStroke>
 #include <EllipseNode>
 #include <Error>
@@ -41,6 +45,17 @@ using namespace VOR2;
 
 namespace {
 
+// A custom node's painter: a filled box, whose outline is its bounds.
+struct BoxPainter : CustomNodePainter {
+    GLOX::GLRect<double> box;
+    explicit BoxPainter(GLOX::GLRect<double> const &b) : box(b) {}
+    Bounds getBounds() override { return Bounds(box); }
+    void paint(QPainter *painter, QStyleOptionGraphicsItem const *, QWidget *) override
+    {
+        painter->fillRect(GLOX::toQRectF(box), QColor(40, 160, 90));
+    }
+};
+
 // Builds and changes random scenes, and asks both ways.
 class RandomScene {
 public:
@@ -68,7 +83,27 @@ public:
         double w = chance(0.1) ? 0.0 : uniform(0.5, 60), h = chance(0.1) ? 0.0 : uniform(0.5, 60);
         return {uniform(-50, 400), uniform(-50, 400), w, h};
     }
+    // Now and then a node that holds or draws others: a composite or a
+    // container with a few children of their own, or a custom node.
     Node node()
+    {
+        int const kind = below(12);
+        if (kind > 2) return primitive();
+        if (kind == 2) {
+            CustomNode custom;
+            custom.setPainter(new BoxPainter(rect()));
+            return custom;
+        }
+        Node group = kind == 0 ? Node(CompositeNode()) : Node(ContainerNode());
+        for (int i = 1 + below(3); i > 0; --i) {
+            Node child = primitive();
+            child.setParent(group);
+            transform(child);
+            m_nodes.push_back(child);
+        }
+        return group;
+    }
+    Node primitive()
     {
         Node n;
         switch (below(6)) {
@@ -133,9 +168,10 @@ public:
     void build(int count)
     {
         for (int i = 0; i < count; ++i) {
+            std::size_t const known = m_nodes.size(); // not the new node's own children
             Node n = node();
-            if (!m_nodes.empty() && chance(0.3))
-                n.setParent(m_nodes[size_t(below(int(m_nodes.size())))]);
+            if (known > 0 && chance(0.3))
+                n.setParent(m_nodes[size_t(below(int(known)))]);
             else
                 m_scene->addNode(n);
             transform(n);
