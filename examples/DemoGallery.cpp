@@ -1,5 +1,7 @@
 #include "DemoGallery.h"
 
+#include "GalleryPathsRow.h"
+
 #include <VOR2>
 
 #include <QImage>
@@ -163,6 +165,7 @@ void buildGallery(Scene &scene)
     scaleFunctionsRow(scene);
     fillsRow(scene);
     effectsRow(scene);
+    addPathsRow(scene, {cell(0, 5).x, cell(0, 5).y}, CELL_W);
 }
 
 QImage renderAtScale(Scene const &scene, double scale, int margin)
