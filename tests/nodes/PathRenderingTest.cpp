@@ -99,6 +99,10 @@ TEST_F(PathRendering, ClosedPathsFillTheirInteriorUpToAStraightClosingSide)
             EXPECT_EQ(qAlpha(image.pixel(int(2 * scale), int(2 * scale))), 0) << "outside at " << scale;
         }
     }
+    // A thick outline is part of what a closed path covers, so that moving
+    // it repaints all of it.
+    triangle.setDrawStyle(DrawStyle(constantStroke(4.0), Fill(GLOX::fromQColor(Qt::blue))));
+    EXPECT_LE(triangle.getImpl()->getGraphicsItem()->boundingRect().left(), 5 - 2);
     QImage const image = paintNodeAtScale(arch, 4.0, 160, 160);
     EXPECT_TRUE(pixelIs(image, 80, 119, Qt::blue)) << "just inside the closing side";
     EXPECT_EQ(qAlpha(image.pixel(80, 121)), 0) << "nothing bulges past it";
