@@ -1,5 +1,6 @@
 #include "DemoGallery.h"
 #include "GalleryContainersRow.h"
+#include "GalleryPathsRow.h"
 
 #include <VOR2>
 
@@ -164,7 +165,8 @@ void buildGallery(Scene &scene)
     scaleFunctionsRow(scene);
     fillsRow(scene);
     effectsRow(scene);
-    addContainersRow(scene, cell(0, 5).y);
+    addPathsRow(scene, {cell(0, 5).x, cell(0, 5).y}, CELL_W);
+    addContainersRow(scene, cell(0, 6).y);
 }
 
 QImage renderAtScale(Scene const &scene, double scale, int margin)

@@ -65,10 +65,15 @@ bool CompositeNodeImpl::contains(GLOX::GLPoint<double> const &p)
 {
     if (Node::CustomHitTestFunctor *hit = getCustomHitTestFunctor())
         return hit->contains(Node(this), p, GlobalViewerInfo::instance()->getViewerScale());
-    QPointF const scenePoint = getGraphicsItem()->mapToScene(GLOX::toQPointF(p));
-    return anyDescendant(this, [&](NodeImpl *node, QTransform const &) {
-        QPointF const local = node->getGraphicsItem()->mapFromScene(scenePoint);
-        return node->getBounds().boundingRect().contains(GLOX::toDPoint(local));
+    // The point in each descendant's coordinates, through the walk's own
+    // transforms: the same as through the scene, but Qt's cached scene
+    // transforms of the children can be stale while Qt's own item walk
+    // has refreshed the composite's and not yet theirs.
+    QPointF const point = GLOX::toQPointF(p);
+    return anyDescendant(this, [&](NodeImpl *node, QTransform const &toRoot) {
+        bool invertible = false;
+        QPointF const local = toRoot.inverted(&invertible).map(point);
+        return invertible && node->getBounds().boundingRect().contains(GLOX::toDPoint(local));
     });
 }
 

@@ -31,9 +31,11 @@ Bounds EllipseNodeImpl::computeStrokedOutline(double scale)
 }
 
 // Qt's default stroker on a closed convex outline: no corners, no caps.
+// The box is the bounds' own: an ellipse without area has an empty path,
+// whose bounds sit at the origin rather than at its rectangle.
 IndexExtent EllipseNodeImpl::getIndexExtent()
 {
-    return strokedExtent(rect(), getDrawStyle().stroke(), CURVE_SLACK);
+    return strokedExtent(GLOX::toQRectF(getBounds().boundingRect()), getDrawStyle().stroke(), CURVE_SLACK);
 }
 
 void EllipseNodeImpl::paintContents(QPainter *painter, QStyleOptionGraphicsItem const *, QWidget *)

@@ -16,6 +16,10 @@
 #include <Image>
 #include <ImageNode>
 #include <LineNode>
+#include <OpenCurvedPathNode>
+#include <OpenLinearPathNode>
+#include <ClosedCurvedPathNode>
+#include <ClosedLinearPathNode>
 #include <RectNode>
 #include <RoundedRectNode>
 #include <Scene>
@@ -83,6 +87,36 @@ public:
         double w = chance(0.1) ? 0.0 : uniform(0.5, 60), h = chance(0.1) ? 0.0 : uniform(0.5, 60);
         return {uniform(-50, 400), uniform(-50, 400), w, h};
     }
+    // One to six points near each other, sometimes with sharp turns.
+    GLOX::GVector<GLOX::GLPoint<double>> points()
+    {
+        GLOX::GVector<GLOX::GLPoint<double>> result;
+        GLOX::GLPoint<double> p(uniform(-50, 400), uniform(-50, 400));
+        for (int i = 1 + below(6); i > 0; --i) {
+            result.append(p);
+            p += GLOX::GLPoint<double>(uniform(-40, 40), uniform(-40, 40));
+        }
+        return result;
+    }
+    GLOX::GVector<Vertex> vertices()
+    {
+        GLOX::GVector<Vertex> result;
+        for (GLOX::GLPoint<double> const &p : points())
+            result.append(Vertex(p, {uniform(-30, 30), uniform(-30, 30)}, {uniform(-30, 30), uniform(-30, 30)}));
+        return result;
+    }
+    // Arrow-head stand-ins at either end, some backing the path off.
+    template <typename Path>
+    void decorate(Path const &path)
+    {
+        auto head = [&] {
+            LineEndDecoration d(RectNode(GLOX::GLRect<double>(-4, -4, 8, 8)));
+            if (chance(0.5)) d.setLineBackoff(uniform(0, 6));
+            return d;
+        };
+        if (chance(0.3)) path.setStartDecoration(head());
+        if (chance(0.3)) path.setEndDecoration(head());
+    }
     // Now and then a node that holds or draws others: a composite or a
     // container with a few children of their own, or a custom node.
     Node node()
@@ -106,7 +140,7 @@ public:
     Node primitive()
     {
         Node n;
-        switch (below(6)) {
+        switch (below(10)) {
         case 0: n = RectNode(rect()); break;
         case 1: n = RoundedRectNode(rect(), chance(0.2) ? 0.0 : uniform(0.5, 10)); break;
         case 2: n = EllipseNode(Ellipse(rect())); break;
@@ -131,6 +165,20 @@ public:
             n = ShapeNode(GLOX::Shape(star));
             break;
         }
+        case 6: {
+            OpenLinearPathNode path(points());
+            decorate(path);
+            n = path;
+            break;
+        }
+        case 7: n = ClosedLinearPathNode(points()); break;
+        case 8: {
+            OpenCurvedPathNode path(vertices());
+            decorate(path);
+            n = path;
+            break;
+        }
+        case 9: n = ClosedCurvedPathNode(vertices()); break;
         default: {
             QImage pixels(8, 6, QImage::Format_ARGB32_Premultiplied);
             pixels.fill(Qt::red);
