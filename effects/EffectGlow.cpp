@@ -68,8 +68,12 @@ QRectF EffectGlow::outerRect(QRectF const &rect, double levelOfDetail) const
 
 Bounds EffectGlow::computeBounds(Bounds const &bounds, double levelOfDetail)
 {
-    if (m_color.alphaByte() == 0) return bounds;
-    return Bounds(GLOX::toDRect(outerRect(GLOX::toQRectF(bounds.boundingRect()), levelOfDetail)));
+    // A shape with nothing inside has no place of its own and no silhouette.
+    if (m_color.alphaByte() == 0 || (bounds.isEmpty() && !bounds.isOnlyRect())) return bounds;
+    QRectF const outer = outerRect(GLOX::toQRectF(bounds.boundingRect()).normalized(), levelOfDetail);
+    // A negative spread can shrink the area to nothing: nothing is drawn.
+    if (!(outer.width() > 0.0 && outer.height() > 0.0)) return bounds;
+    return Bounds(GLOX::toDRect(outer));
 }
 
 LodReach EffectGlow::reachBound() const
@@ -113,9 +117,12 @@ void EffectGlow::renderEffectGeneric(NodeImpl *node, QPainter *painter, QStyleOp
 {
     double const lod = option->levelOfDetail;
     if (!(lod > 0.0)) return;
-    // The painter's origin is the top-left of the node's outline.
-    QRectF const outline = GLOX::toQRectF(node->getCachedStrokedOutline(lod).boundingRect()).normalized();
-    QRectF const whole = outerRect(outline, lod).normalized();
+    // The painter's origin is the outline's top-left as the list took it;
+    // geometry may run left or up.
+    QRectF const raw = GLOX::toQRectF(node->getCachedStrokedOutline(lod).boundingRect());
+    QRectF const outline = raw.normalized();
+    QRectF const whole = outerRect(outline, lod);
+    if (!(whole.width() > 0.0 && whole.height() > 0.0)) return;
     int const radius = glowBlurRadius(getScaledSpread(lod), lod);
     GlowArea const area = exposedGlowArea(whole, *option, lod, radius);
     if (area.isEmpty()) return;
@@ -131,7 +138,7 @@ void EffectGlow::renderEffectGeneric(NodeImpl *node, QPainter *painter, QStyleOp
     if (m_maskedOut) cutSilhouette(image, size, {area.origin, radius, lod}, mask);
     QRect const result(QPoint(radius, radius), area.pixels);
     tintByAlpha(image, result, qRgb(m_color.redByte(), m_color.greenByte(), m_color.blueByte()));
-    drawGlowImage(*painter, image, result, area.origin - outline.topLeft(), lod,
+    drawGlowImage(*painter, image, result, area.origin - raw.topLeft(), lod,
                   painter->opacity() * m_color.alphaByte() / 255.0);
 }
 

@@ -56,7 +56,10 @@ void paintInnerBand(NodeImpl *node, QPainter &painter, QStyleOptionGraphicsItem 
 {
     double const lod = option.levelOfDetail;
     if (!(lod > 0.0)) return;
-    QRectF const outline = GLOX::toQRectF(node->getCachedStrokedOutline(lod).boundingRect()).normalized();
+    // The painter's origin is the outline's top-left as the list took it;
+    // geometry may run left or up.
+    QRectF const raw = GLOX::toQRectF(node->getCachedStrokedOutline(lod).boundingRect());
+    QRectF const outline = raw.normalized();
     // The blur reads `radius` pixels beyond what it writes, and the shift
     // reads that much farther up and left: a margin for both.
     int const margin = radius + shift;
@@ -69,7 +72,7 @@ void paintInnerBand(NodeImpl *node, QPainter &painter, QStyleOptionGraphicsItem 
     innerBand(image, size, radius, shift);
     QRect const result(QPoint(margin, margin), area.pixels);
     tintByAlpha(image, result, qRgb(colour.redByte(), colour.greenByte(), colour.blueByte()));
-    drawGlowImage(painter, image, result, area.origin - outline.topLeft(), lod, colour.alphaByte() / 255.0);
+    drawGlowImage(painter, image, result, area.origin - raw.topLeft(), lod, colour.alphaByte() / 255.0);
 }
 
 } // namespace VOR2
