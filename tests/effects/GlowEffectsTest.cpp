@@ -7,6 +7,7 @@
 #include <EffectInnerGlow>
 #include <EffectInnerShadow>
 #include <EffectShadow>
+#include <EffectStroke>
 #include <EllipseNode>
 #include <Image>
 #include <ImageNode>
@@ -309,4 +310,16 @@ TEST_F(GlowEffectsTest, SettersNotifyOnlyOnChangeAndTheBoundNodeFollows)
     n.getEffects().add(glow.get());
     glow->setSpread(4);
     EXPECT_EQ(n.getImpl()->getGraphicsItem()->boundingRect(), QRectF(17, 16, 18, 18));
+}
+
+TEST_F(GlowEffectsTest, AnEllipseWithoutAreaGainsNoBoundsAroundTheOrigin)
+{
+    // Its outline is a shape with nothing inside, whose rectangle is the
+    // zero one: growing that would put the node's bounds at the origin.
+    EllipseNode n = added(EllipseNode(Ellipse({300, 200, 0, 0})));
+    GLOX::Holder<EffectStroke> stroke(new EffectStroke(Stroke(GLOX::Color(1, 0, 0), 8.0), Outer));
+    GLOX::Holder<EffectGlow> glow = red<EffectGlow>(8);
+    n.getEffects().add(stroke.get());
+    n.getEffects().add(glow.get());
+    EXPECT_FALSE(n.getImpl()->getGraphicsItem()->boundingRect().contains(QPointF(0, 0)));
 }
