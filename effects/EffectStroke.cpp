@@ -84,6 +84,10 @@ double EffectStroke::effectiveWidth(double levelOfDetail) const
 
 Bounds EffectStroke::computeBounds(Bounds const &bounds, double levelOfDetail)
 {
+    // A shape with nothing inside (the outline of an ellipse without area)
+    // has no place of its own and nothing to outline. A bare rectangle
+    // without area is still outlined where it stands.
+    if (bounds.isEmpty() && !bounds.isOnlyRect()) return bounds;
     double const d = effectiveWidth(levelOfDetail) * outsideWidths(m_inset);
     GLOX::GLRect<double> const r = bounds.boundingRect();
     return Bounds(GLOX::GLRect<double>(r.x - d, r.y - d, r.width + 2 * d, r.height + 2 * d));

@@ -1,6 +1,7 @@
 #include "DemoGallery.h"
 #include "GalleryContainersRow.h"
 #include "GalleryPathsRow.h"
+#include "GalleryGlowRow.h"
 
 #include <VOR2>
 
@@ -167,6 +168,7 @@ void buildGallery(Scene &scene)
     effectsRow(scene);
     addPathsRow(scene, {cell(0, 5).x, cell(0, 5).y}, CELL_W);
     addContainersRow(scene, cell(0, 6).y);
+    addGlowRow(scene, 20 + 7 * CELL_H);
 }
 
 QImage renderAtScale(Scene const &scene, double scale, int margin)

@@ -9,6 +9,11 @@
 #include <ContainerNode>
 #include <CustomNode>
 #include <CustomNodePainter>
+#include <EffectColorOverlay>
+#include <EffectGlow>
+#include <EffectInnerGlow>
+#include <EffectInnerShadow>
+#include <EffectShadow>
 #include <EffectStroke>
 #include <EllipseNode>
 #include <Error>
@@ -199,12 +204,34 @@ public:
             n.setSelected(!n.isSelected());
             return;
         }
-        Stroke s = stroke();
-        if (s.isNoStroke()) s = Stroke(GLOX::Color(1, 0, 0), 3.0);
-        GLOX::Holder<EffectStroke> e(new EffectStroke(s, StrokeInsetType(below(4))));
+        GLOX::Holder<Effect> e;
+        if (chance(0.5)) {
+            e = imageEffect();
+        } else {
+            Stroke s = stroke();
+            if (s.isNoStroke()) s = Stroke(GLOX::Color(1, 0, 0), 3.0);
+            e = GLOX::Holder<Effect>(new EffectStroke(s, StrokeInsetType(below(4))));
+        }
         if (chance(0.2)) e->setOpacity(0.0);
         n.getEffects().add(e.get(), chance(0.5) ? "a" : "b");
         if (chance(0.2)) n.getEffects().disable(e.get());
+    }
+    // A glow, shadow, inner glow, inner shadow or overlay of random spread
+    // (negative too), distance and scale function.
+    GLOX::Holder<Effect> imageEffect()
+    {
+        EffectGlow *glow = nullptr;
+        switch (below(5)) {
+        case 0: glow = new EffectGlow; break;
+        case 1: glow = new EffectShadow; break;
+        case 2: glow = new EffectInnerGlow; break;
+        case 3: glow = new EffectInnerShadow; break;
+        default: return GLOX::Holder<Effect>(new EffectColorOverlay);
+        }
+        glow->setSpread(below(30) - 5);
+        glow->setDistance({below(41) - 20, below(41) - 20});
+        glow->setScaleFunction(stroke().scaleFunction());
+        return GLOX::Holder<Effect>(glow);
     }
     void transform(Node const &n)
     {
@@ -328,6 +355,9 @@ private:
                     << e.local.width() << "x" << e.local.height() << " reach " << e.reachSceneUnits << " "
                     << e.reachPixels << " " << e.reachPixelsOverScale << " parent " << (item->parentItem() != nullptr)
                     << " br " << item->boundingRect().width();
+                if (NodeEffectsImpl const *effects = n->getEffectsImpl())
+                    for (auto const *binding : effects->bindings())
+                        out << " effect " << binding->effect->getFullyQualifiedTcosTypeName();
             }
         return out.str();
     }
