@@ -1,6 +1,7 @@
 #include <EffectStroke>
 
 #include "effects/InsetBand.h"
+#include "nodes/TextNodeImpl.h"
 #include "scene/NodeImpl.h"
 
 #include <QPainter>
@@ -131,6 +132,17 @@ void EffectStroke::renderEffectGeneric(NodeImpl *node, QPainter *painter, QStyle
 {
     renderPrivate(node->getCachedStrokedOutline(option->levelOfDetail), m_inset,
                   node->getDrawStyle().isAntiAliased(), painter, option, widget);
+}
+
+// Text: a frame around the text's rectangle, by default the same at every
+// level of detail.
+bool EffectStroke::renderEffectText(TextNodeImpl *node, QPainter *painter, QStyleOptionGraphicsItem const *option,
+                                    QWidget *widget)
+{
+    Bounds const bounds = getOutlineType() == PlainBoundsOutline ? node->getBounds()
+                                                                 : node->getCachedStrokedOutline(option->levelOfDetail);
+    renderPrivate(bounds, m_inset, true, painter, option, widget);
+    return true;
 }
 
 } // namespace VOR2
