@@ -14,6 +14,7 @@
 #include <LineNode>
 #include <RectNode>
 #include <RoundedRectNode>
+#include <TextNode>
 #include <Scene>
 #include <SelectionNonLinearLodScale>
 #include <NodeEffects>
@@ -71,7 +72,7 @@ public:
     Node node()
     {
         Node n;
-        switch (below(6)) {
+        switch (below(7)) {
         case 0: n = RectNode(rect()); break;
         case 1: n = RoundedRectNode(rect(), chance(0.2) ? 0.0 : uniform(0.5, 10)); break;
         case 2: n = EllipseNode(Ellipse(rect())); break;
@@ -94,6 +95,14 @@ public:
             }
             star.closeSubpath();
             n = ShapeNode(GLOX::Shape(star));
+            break;
+        }
+        case 5: {
+            static char const *const texts[] = {"", "x", "gjpqy", "two\nlines of text"};
+            TextNode text(texts[below(4)], {uniform(-50, 400), uniform(-50, 400)});
+            text.setHorizontalAlignment(below(3));
+            text.setVerticalAlignment(1 + below(3));
+            n = text;
             break;
         }
         default: {
