@@ -1,4 +1,5 @@
 #include "DemoGallery.h"
+#include "GalleryTextRow.h"
 
 #include <VOR2>
 
@@ -163,6 +164,7 @@ void buildGallery(Scene &scene)
     scaleFunctionsRow(scene);
     fillsRow(scene);
     effectsRow(scene);
+    galleryTextRow(scene, 20 + 5 * CELL_H);
 }
 
 QImage renderAtScale(Scene const &scene, double scale, int margin)
