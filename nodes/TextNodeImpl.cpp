@@ -7,6 +7,7 @@
 #include "nodes/StylePainter.h"
 
 #include <QAbstractTextDocumentLayout>
+#include <QMetaMethod>
 #include <QFontMetrics>
 #include <QPainter>
 #include <QStyleOptionGraphicsItem>
@@ -32,9 +33,19 @@ TextNodeImpl::TextNodeImpl()
     m_fontHeight = QFontMetrics(font).height();
     connect(doc, &QTextDocument::contentsChange, this, &TextNodeImpl::dispatchContentsChange);
     connect(doc->documentLayout(), &QAbstractTextDocumentLayout::update, this, &TextNodeImpl::dispatchLayoutChanged);
+    // Qt's text item redraws what its text control asks for in document
+    // coordinates, which the node shifts: the shifted area is asked for too.
+    for (QObject *child : children()) {
+        int const signal = child->metaObject()->indexOfSignal("updateRequest(QRectF)");
+        if (signal < 0) continue;
+        connect(child, child->metaObject()->method(signal), this,
+                metaObject()->method(metaObject()->indexOfSlot("repaintDocumentArea(QRectF)")));
+    }
     applyAutoWidth();
     placeItem();
 }
+
+void TextNodeImpl::repaintDocumentArea(QRectF const &area) { update(area.translated(m_contentOffset)); }
 
 TextNodeImpl::~TextNodeImpl()
 {

@@ -106,6 +106,11 @@ public Q_SLOTS:
     void dispatchEditStarted();
     void dispatchEditComplete();
 
+private Q_SLOTS:
+    // Qt's text handling asks for an area of the document to be redrawn
+    // (the blinking caret): it is redrawn where the node shows it.
+    void repaintDocumentArea(QRectF const &area);
+
 protected:
     void focusInEvent(QFocusEvent *event) override;
     void focusOutEvent(QFocusEvent *event) override;
