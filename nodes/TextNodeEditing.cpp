@@ -65,9 +65,10 @@ void TextNodeImpl::dispatchContentsChange(int position, int charsRemoved, int ch
         prepareItemGeometryChange();
         applyWidth(m_shadowDocument.idealWidth());
         notifyGeometryChanged(false);
-    } else if (m_programmaticChanges == 0) {
+    } else if (m_programmaticChanges == 0 && !m_editing) {
         // A change while not editing that the node did not make (a client
-        // writing to the document): the width and place follow it.
+        // writing to the document): the width and place follow it. While
+        // editing at a fixed width the text wraps at that width.
         afterContentChange();
     }
     if (m_programmaticChanges == 0) dispatchContentsChanged();

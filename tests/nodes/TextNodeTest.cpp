@@ -296,24 +296,33 @@ TEST_F(TextScene, SelectAllOnFocusLetsTypingReplaceTheText)
 
 TEST_F(TextScene, TheDeleteButtonShowsWhileEditingAndRemovesTheText)
 {
-    TextNode text("doomed", {50, 50});
-    text.setEditable(true);
-    scene->addNode(text);
-    RectNode button(GLOX::GLRect<double>(0, 0, 10, 10));
-    button.setParent(text);
-    text.setDeleteButtonNode(button);
-    EXPECT_FALSE(button.isVisible());
-    EXPECT_FALSE(button.isSelectable());
-    click({55, 55});
-    ASSERT_TRUE(text.hasFocus());
-    ASSERT_TRUE(button.isVisible());
-    // Its bottom-right corner on the text's top-left one.
-    GLOX::GLRect<double> const t = text.getBoundingRect();
-    EXPECT_EQ(button.getPosition(), GLOX::GLPoint<double>(t.x - 10, t.y - 10));
-    GLOX::GLPoint<double> const onButton = button.mapLocalToScene({5, 5});
+    WeakRef weak;
+    GLOX::GLPoint<double> onButton;
+    {
+        TextNode text("doomed", {50, 50});
+        weak = text;
+        text.setEditable(true);
+        scene->addNode(text);
+        RectNode button(GLOX::GLRect<double>(0, 0, 10, 10));
+        button.setParent(text);
+        text.setDeleteButtonNode(button);
+        EXPECT_FALSE(button.isVisible());
+        EXPECT_FALSE(button.isSelectable());
+        click({55, 55});
+        ASSERT_TRUE(text.hasFocus());
+        ASSERT_TRUE(button.isVisible());
+        // Its bottom-right corner on the text's top-left one.
+        GLOX::GLRect<double> const t = text.getBoundingRect();
+        EXPECT_EQ(button.getPosition(), GLOX::GLPoint<double>(t.x - 10, t.y - 10));
+        onButton = button.mapLocalToScene({5, 5});
+    }
+    // Only the scene holds the text now: the press removes it, and it dies
+    // once the selection tool lets go of the last press's nodes.
     click(onButton);
-    EXPECT_EQ(text.getScene(), nullptr);
     EXPECT_FALSE(editingToolOnStack());
+    EXPECT_EQ(scene->getNodeAt(onButton), Node());
+    click({300, 300});
+    EXPECT_FALSE(weak.promote().isValid());
 }
 
 TEST_F(TextScene, AnEditedSelectedStrokedTextLeavesAndReturnsAndDiesWithItsLastHandle)
