@@ -343,6 +343,9 @@ TEST_F(TextScene, AnEditedSelectedStrokedTextLeavesAndReturnsAndDiesWithItsLastH
         EXPECT_TRUE(pixelIs(image, int(100 + b.x + b.width + 1), int(50 + b.y + b.height / 2), QColor(255, 0, 0), 40));
         EXPECT_FALSE(pixelIs(image, int(100 + b.x + b.width + 3), int(50 + b.y + b.height / 2), QColor(255, 0, 0), 40));
         text.setSelected(true);
+        // The scene's selection outline goes round the text too.
+        QImage selected = renderAroundOrigin(*scene, 1.0);
+        EXPECT_TRUE(pixelIs(selected, int(100 + b.x + b.width + 5), int(50 + b.y + b.height / 2), QColor(218, 233, 254), 12));
         text.setFocus();
         ASSERT_TRUE(text.hasFocus());
         scene->removeNode(text);
@@ -355,4 +358,31 @@ TEST_F(TextScene, AnEditedSelectedStrokedTextLeavesAndReturnsAndDiesWithItsLastH
         scene->removeNode(text);
     }
     EXPECT_FALSE(weak.promote().isValid());
+}
+
+TEST(TextSceneDeath, ASceneThatDiesDuringAnEditLetsItsHeldTextGoAndTakesTheRest)
+{
+    WeakRef weak;
+    TextNode kept("kept", {0, 0});
+    {
+        GLOX::Holder<Scene> scene = Scene::createScene();
+        TextNode text("edited", {0, 0});
+        weak = text;
+        text.setEditable(true);
+        kept.setEditable(true);
+        scene->addNode(text);
+        scene->addNode(kept);
+        kept.setFocus(); // the held text is the edited one: it leaves the dying scene editing
+        ASSERT_TRUE(kept.hasFocus());
+    }
+    EXPECT_FALSE(weak.promote().isValid());
+    EXPECT_FALSE(kept.hasFocus());
+    EXPECT_EQ(kept.getScene(), nullptr);
+    // Its edit ended with the scene: in another scene it is edited afresh.
+    GLOX::Holder<Scene> next = Scene::createScene();
+    next->addNode(kept);
+    Counter started(kept.getEditStartedEmitter());
+    kept.setFocus();
+    EXPECT_EQ(started.count, 1);
+    EXPECT_NE(next->getToolByRole("TextSelectionTool"), nullptr);
 }
