@@ -31,9 +31,6 @@ class QSyntaxHighlighter;
 
 namespace VOR2 {
 
-class Scene;
-class TextSelectionTool;
-
 class TextNodeImpl : public TypedNodeImpl<QGraphicsTextItem>, public GLUV::Listener {
     Q_OBJECT
 public:
