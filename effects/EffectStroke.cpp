@@ -2,6 +2,7 @@
 
 #include "effects/InsetBand.h"
 #include "nodes/CustomNodeImpl.h"
+#include "nodes/TextNodeImpl.h"
 #include "scene/NodeImpl.h"
 
 #include <QPainter>
@@ -142,6 +143,17 @@ bool EffectStroke::renderEffectCustom(CustomNodeImpl *node, QPainter *painter, Q
                                       QWidget *widget)
 {
     renderPrivate(node->getCachedStrokedOutline(option->levelOfDetail), m_inset, true, painter, option, widget);
+    return true;
+}
+
+// Text: a frame around the text's rectangle, by default the same at every
+// level of detail.
+bool EffectStroke::renderEffectText(TextNodeImpl *node, QPainter *painter, QStyleOptionGraphicsItem const *option,
+                                    QWidget *widget)
+{
+    Bounds const bounds = getOutlineType() == PlainBoundsOutline ? node->getBounds()
+                                                                 : node->getCachedStrokedOutline(option->levelOfDetail);
+    renderPrivate(bounds, m_inset, true, painter, option, widget);
     return true;
 }
 

@@ -2,6 +2,7 @@
 #include "GalleryContainersRow.h"
 #include "GalleryPathsRow.h"
 #include "GalleryGlowRow.h"
+#include "GalleryTextRow.h"
 
 #include <VOR2>
 
@@ -169,6 +170,7 @@ void buildGallery(Scene &scene)
     addPathsRow(scene, {cell(0, 5).x, cell(0, 5).y}, CELL_W);
     addContainersRow(scene, cell(0, 6).y);
     addGlowRow(scene, 20 + 7 * CELL_H);
+    galleryTextRow(scene, 20 + 8 * CELL_H);
 }
 
 QImage renderAtScale(Scene const &scene, double scale, int margin)

@@ -23,11 +23,18 @@ QPainterPath EllipseNodeImpl::ellipsePath() const
     return path;
 }
 
-Bounds EllipseNodeImpl::computeBounds() { return Bounds(ellipsePath()); }
+// An ellipse of no size makes no path: it is the point where it is.
+Bounds EllipseNodeImpl::computeBounds()
+{
+    QPainterPath const path = ellipsePath();
+    return path.isEmpty() ? Bounds(rect()) : Bounds(path);
+}
 
 Bounds EllipseNodeImpl::computeStrokedOutline(double scale)
 {
-    return Bounds(convexStrokedArea(ellipsePath(), getDrawStyle().stroke(), scale));
+    QPainterPath const path = ellipsePath();
+    if (path.isEmpty()) return Bounds(pointStrokedRect(rect(), getDrawStyle().stroke(), scale));
+    return Bounds(convexStrokedArea(path, getDrawStyle().stroke(), scale));
 }
 
 // Qt's default stroker on a closed convex outline: no corners, no caps.

@@ -27,6 +27,7 @@
 #include <ClosedLinearPathNode>
 #include <RectNode>
 #include <RoundedRectNode>
+#include <TextNode>
 #include <Scene>
 #include <SelectionNonLinearLodScale>
 #include <NodeEffects>
@@ -145,7 +146,7 @@ public:
     Node primitive()
     {
         Node n;
-        switch (below(10)) {
+        switch (below(11)) {
         case 0: n = RectNode(rect()); break;
         case 1: n = RoundedRectNode(rect(), chance(0.2) ? 0.0 : uniform(0.5, 10)); break;
         case 2: n = EllipseNode(Ellipse(rect())); break;
@@ -184,6 +185,14 @@ public:
             break;
         }
         case 9: n = ClosedCurvedPathNode(vertices()); break;
+        case 10: {
+            static char const *const texts[] = {"", "x", "gjpqy", "two\nlines of text"};
+            TextNode text(texts[below(4)], {uniform(-50, 400), uniform(-50, 400)});
+            text.setHorizontalAlignment(below(3));
+            text.setVerticalAlignment(1 + below(3));
+            n = text;
+            break;
+        }
         default: {
             QImage pixels(8, 6, QImage::Format_ARGB32_Premultiplied);
             pixels.fill(Qt::red);
