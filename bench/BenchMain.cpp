@@ -74,6 +74,7 @@ void registerAll(Options const &o)
     }
     if (!o.quick)
         for (Workload w : {Workload::W1, Workload::W2}) registerLifecycle(w, 1000000, 1, 3);
+    registerGlows(8, r);
 }
 } // namespace
 

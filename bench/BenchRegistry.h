@@ -22,5 +22,7 @@ void registerHover(Workload w, int n, int iterations, int repetitions);
 void registerRenders(Workload w, int n, int iterations, int repetitions);
 void registerServer(Workload w, int n, int iterations, int repetitions);
 void registerGuiPaint(Workload w, int n, int iterations, int repetitions);
+// Image effects against Qt's (GlowBench).
+void registerGlows(int iterations, int repetitions);
 
 } // namespace bench

@@ -10,7 +10,8 @@ namespace bench {
 namespace {
 char const *const METRICS[] = {"build",           "bytes_per_node",   "teardown",       "hit_test",
                                "hover_move",      "render_dirty_200", "render_view_in", "render_view_out",
-                               "move_one",        "move_all",         "zoom_step",      "gui_paint"};
+                               "move_one",        "move_all",         "zoom_step",      "gui_paint",
+                               "glow_blur",       "glow_view",        "glow_view_cold", "glow_move_one"};
 char const *const BASES[] = {"qt_bsp", "qt_noindex", "painter"};
 
 int metricOrder(std::string const &metric)

@@ -1,6 +1,8 @@
 #include <EffectStroke>
 
 #include "effects/InsetBand.h"
+#include "nodes/CustomNodeImpl.h"
+#include "nodes/TextNodeImpl.h"
 #include "scene/NodeImpl.h"
 
 #include <QPainter>
@@ -83,6 +85,10 @@ double EffectStroke::effectiveWidth(double levelOfDetail) const
 
 Bounds EffectStroke::computeBounds(Bounds const &bounds, double levelOfDetail)
 {
+    // A shape with nothing inside (the outline of an ellipse without area)
+    // has no place of its own and nothing to outline. A bare rectangle
+    // without area is still outlined where it stands.
+    if (bounds.isEmpty() && !bounds.isOnlyRect()) return bounds;
     double const d = effectiveWidth(levelOfDetail) * outsideWidths(m_inset);
     GLOX::GLRect<double> const r = bounds.boundingRect();
     return Bounds(GLOX::GLRect<double>(r.x - d, r.y - d, r.width + 2 * d, r.height + 2 * d));
@@ -131,6 +137,24 @@ void EffectStroke::renderEffectGeneric(NodeImpl *node, QPainter *painter, QStyle
 {
     renderPrivate(node->getCachedStrokedOutline(option->levelOfDetail), m_inset,
                   node->getDrawStyle().isAntiAliased(), painter, option, widget);
+}
+
+bool EffectStroke::renderEffectCustom(CustomNodeImpl *node, QPainter *painter, QStyleOptionGraphicsItem const *option,
+                                      QWidget *widget)
+{
+    renderPrivate(node->getCachedStrokedOutline(option->levelOfDetail), m_inset, true, painter, option, widget);
+    return true;
+}
+
+// Text: a frame around the text's rectangle, by default the same at every
+// level of detail.
+bool EffectStroke::renderEffectText(TextNodeImpl *node, QPainter *painter, QStyleOptionGraphicsItem const *option,
+                                    QWidget *widget)
+{
+    Bounds const bounds = getOutlineType() == PlainBoundsOutline ? node->getBounds()
+                                                                 : node->getCachedStrokedOutline(option->levelOfDetail);
+    renderPrivate(bounds, m_inset, true, painter, option, widget);
+    return true;
 }
 
 } // namespace VOR2

@@ -1,4 +1,8 @@
 #include "DemoGallery.h"
+#include "GalleryContainersRow.h"
+#include "GalleryPathsRow.h"
+#include "GalleryGlowRow.h"
+#include "GalleryTextRow.h"
 
 #include <VOR2>
 
@@ -163,6 +167,10 @@ void buildGallery(Scene &scene)
     scaleFunctionsRow(scene);
     fillsRow(scene);
     effectsRow(scene);
+    addPathsRow(scene, {cell(0, 5).x, cell(0, 5).y}, CELL_W);
+    addContainersRow(scene, cell(0, 6).y);
+    addGlowRow(scene, 20 + 7 * CELL_H);
+    galleryTextRow(scene, 20 + 8 * CELL_H);
 }
 
 QImage renderAtScale(Scene const &scene, double scale, int margin)

@@ -1,6 +1,7 @@
 #pragma once
 // The demo's gallery scene: every primitive node kind, at several stroke
-// styles, fills and scale functions, and an image node.
+// styles, fills and scale functions, an image node, outline effects and
+// paths.
 
 #include <Scene>
 

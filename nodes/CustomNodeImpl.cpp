@@ -1,8 +1,13 @@
 #include "nodes/CustomNodeImpl.h"
 
 #include <CustomNode>
+#include <Effect>
 
 #include "scene/IndexExtent.h"
+
+#include <QPaintDevice>
+#include <QPainter>
+#include <QStyleOptionGraphicsItem>
 
 namespace VOR2 {
 
@@ -57,7 +62,41 @@ void CustomNodeImpl::paintContents(QPainter *painter, QStyleOptionGraphicsItem c
     if (m_painter) m_painter->paint(painter, option, widget);
 }
 
+void CustomNodeImpl::paintMask(QPainter *painter, double scale, GLOX::GLRect<double> const &rect)
+{
+    if (m_painter) m_painter->paintMask(painter, scale, rect);
+}
+
+void CustomNodeImpl::renderEffect(Effect *effect, QPainter *painter, QStyleOptionGraphicsItem const *option,
+                                  QWidget *widget)
+{
+    if (!effect->renderEffectCustom(this, painter, option, widget))
+        effect->renderEffectGeneric(this, painter, option, widget);
+}
+
 // ------------------------------------------------------------- the painter
+
+void CustomNodePainter::destroy() { delete this; }
+
+void CustomNodePainter::paintMask(QPainter *painter, double, GLOX::GLRect<double> const &)
+{
+    painter->setRenderHint(QPainter::Antialiasing, true);
+    QStyleOptionGraphicsItem const option;
+    paint(painter, &option, nullptr);
+    QPaintDevice const *device = painter->device();
+    if (!device) return;
+    QRectF const whole(0, 0, device->width(), device->height());
+    // The device's rectangle in the painter's coordinates, whatever its
+    // transform, so that no painted pixel keeps its colour.
+    bool invertible = false;
+    QTransform const toLocal = painter->worldTransform().inverted(&invertible);
+    if (!invertible) return;
+    painter->setCompositionMode(QPainter::CompositionMode_SourceIn);
+    painter->setPen(Qt::NoPen);
+    painter->setBrush(QBrush(QColor(0, 0, 0, 255), Qt::SolidPattern));
+    QRectF const cover = toLocal.mapRect(whole);
+    painter->drawRects(&cover, 1);
+}
 
 Bounds CustomNodePainter::getStrokedOutline(double) { return getBounds(); }
 

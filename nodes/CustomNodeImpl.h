@@ -29,6 +29,12 @@ public:
     // The bounds' rectangle grown by the painter's reach.
     IndexExtent getIndexExtent() override;
     void paintContents(QPainter *painter, QStyleOptionGraphicsItem const *option, QWidget *widget) override;
+    // The painter's mask. Without a painter, nothing: the node covers
+    // nothing.
+    void paintMask(QPainter *painter, double scale, GLOX::GLRect<double> const &rect) override;
+    // The effect's custom method, else its generic one.
+    void renderEffect(Effect *effect, QPainter *painter, QStyleOptionGraphicsItem const *option,
+                      QWidget *widget) override;
 
 private:
     GLOX::Holder<CustomNodePainter> m_painter;

@@ -23,17 +23,26 @@ QPainterPath EllipseNodeImpl::ellipsePath() const
     return path;
 }
 
-Bounds EllipseNodeImpl::computeBounds() { return Bounds(ellipsePath()); }
+// An ellipse of no size makes no path: it is the point where it is.
+Bounds EllipseNodeImpl::computeBounds()
+{
+    QPainterPath const path = ellipsePath();
+    return path.isEmpty() ? Bounds(rect()) : Bounds(path);
+}
 
 Bounds EllipseNodeImpl::computeStrokedOutline(double scale)
 {
-    return Bounds(convexStrokedArea(ellipsePath(), getDrawStyle().stroke(), scale));
+    QPainterPath const path = ellipsePath();
+    if (path.isEmpty()) return Bounds(pointStrokedRect(rect(), getDrawStyle().stroke(), scale));
+    return Bounds(convexStrokedArea(path, getDrawStyle().stroke(), scale));
 }
 
 // Qt's default stroker on a closed convex outline: no corners, no caps.
+// The box is the bounds' own: an ellipse without area has an empty path,
+// whose bounds sit at the origin rather than at its rectangle.
 IndexExtent EllipseNodeImpl::getIndexExtent()
 {
-    return strokedExtent(rect(), getDrawStyle().stroke(), CURVE_SLACK);
+    return strokedExtent(GLOX::toQRectF(getBounds().boundingRect()), getDrawStyle().stroke(), CURVE_SLACK);
 }
 
 void EllipseNodeImpl::paintContents(QPainter *painter, QStyleOptionGraphicsItem const *, QWidget *)

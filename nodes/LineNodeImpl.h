@@ -8,8 +8,8 @@
 // the node is on a scene (0 off a scene). The item's bounds limit the
 // search to the segment.
 
-#include <LineEndDecoration>
-
+#include "nodes/LineEnds.h"
+#include "nodes/LineOutline.h"
 #include "scene/TypedNodeImpl.h"
 
 namespace VOR2 {
@@ -18,7 +18,7 @@ class LineNodeImpl : public TypedNodeImpl<QGraphicsItem> {
 public:
     static char const *const TYPE_NAME;
     // Added to the stroke width by hit tests on a scene, in scene units.
-    static constexpr double HIT_TOLERANCE = 4.0;
+    static constexpr double HIT_TOLERANCE = LINE_HIT_TOLERANCE;
 
     LineNodeImpl() = default;
     // Stores both points and reports nothing.
@@ -35,8 +35,8 @@ public:
     void setEnd(QPointF const &end);
     void setLine(QPointF const &start, QPointF const &end);
 
-    LineEndDecoration const &startDecoration() const { return m_startDecoration; }
-    LineEndDecoration const &endDecoration() const { return m_endDecoration; }
+    LineEndDecoration const &startDecoration() const { return m_ends.decoration(LineEnds::Start); }
+    LineEndDecoration const &endDecoration() const { return m_ends.decoration(LineEnds::Finish); }
     // Removes the present decoration's node from the tree, then hangs the
     // new one under this node and places it. Reports nothing for the line.
     void setStartDecoration(LineEndDecoration const &decoration);
@@ -67,13 +67,11 @@ public:
 private:
     QPainterPath geometricPath() const;
     double hitTolerance() const;
-    void placeStartDecoration();
-    void placeEndDecoration();
+    void placeDecorations();
 
     QPointF m_start;
     QPointF m_end;
-    LineEndDecoration m_startDecoration;
-    LineEndDecoration m_endDecoration;
+    LineEnds m_ends;
 };
 
 } // namespace VOR2

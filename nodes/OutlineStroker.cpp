@@ -27,6 +27,12 @@ QPainterPath strokedArea(QPainterPath const &path, Stroke const &stroke, double 
     return strokeOutline(path, stroke, scale, shape).united(path);
 }
 
+QRectF pointStrokedRect(QRectF const &r, Stroke const &stroke, double scale)
+{
+    double const half = stroke.isNoStroke() ? 0.0 : 0.5 * stroke.width(scale);
+    return r.adjusted(-half, -half, half, half);
+}
+
 QPainterPath convexStrokedArea(QPainterPath const &path, Stroke const &stroke, double scale)
 {
     if (stroke.isNoStroke()) return path;

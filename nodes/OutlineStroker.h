@@ -29,4 +29,10 @@ QPainterPath strokedArea(QPainterPath const &path, Stroke const &stroke, double 
 // to the union.
 QPainterPath convexStrokedArea(QPainterPath const &path, Stroke const &stroke, double scale);
 
+// The stroked outline of a rectangle or ellipse of no size, which makes no
+// path: the point `r` grown by half the stroke's width at `scale` (as a
+// rectangle node's), so that it lies where the shape is and not at the
+// origin.
+QRectF pointStrokedRect(QRectF const &r, Stroke const &stroke, double scale);
+
 } // namespace VOR2

@@ -52,7 +52,9 @@ Bounds RoundedRectNodeImpl::computeBounds()
 
 Bounds RoundedRectNodeImpl::computeStrokedOutline(double scale)
 {
-    return Bounds(convexStrokedArea(outlinePath(), getDrawStyle().stroke(), scale));
+    QPainterPath const path = outlinePath();
+    if (path.isEmpty()) return Bounds(pointStrokedRect(m_rect, getDrawStyle().stroke(), scale));
+    return Bounds(convexStrokedArea(path, getDrawStyle().stroke(), scale));
 }
 
 // Qt's default stroker on a closed convex outline: bevel joins, no caps.

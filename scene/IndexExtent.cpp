@@ -17,7 +17,6 @@ IndexExtent NodeImpl::getIndexExtent()
     return extent;
 }
 
-namespace {
 // The node's own extent, widened by the reach of its effects beyond its
 // stroked outline, which the extent already covers.
 IndexExtent extentWithEffects(NodeImpl *node)
@@ -30,28 +29,47 @@ IndexExtent extentWithEffects(NodeImpl *node)
     }
     return extent;
 }
-} // namespace
 
-IndexExtent sceneIndexExtent(NodeImpl *node)
+IndexExtent mappedIndexExtent(IndexExtent const &local, QTransform const &t)
 {
-    IndexExtent const local = extentWithEffects(node);
-    if (local.isEmpty()) return local;
-    QTransform const t = node->getGraphicsItem()->sceneTransform();
-    IndexExtent scene;
+    IndexExtent mapped;
     if (!t.isAffine()) {
         // No constant bounds the growth of a reach: everywhere.
-        scene.local = QRectF(-COORDINATE_LIMIT, -COORDINATE_LIMIT, 2 * COORDINATE_LIMIT, 2 * COORDINATE_LIMIT);
-        return scene;
+        mapped.local = QRectF(-COORDINATE_LIMIT, -COORDINATE_LIMIT, 2 * COORDINATE_LIMIT, 2 * COORDINATE_LIMIT);
+        return mapped;
     }
     // Half the side of an axis-aligned square of half side g maps to at
     // most g times this on either axis.
     double const stretch =
         std::max(std::abs(t.m11()) + std::abs(t.m21()), std::abs(t.m12()) + std::abs(t.m22()));
-    scene.local = t.mapRect(local.local);
-    scene.reachSceneUnits = local.reachSceneUnits * stretch;
-    scene.reachPixels = local.reachPixels * stretch;
-    scene.reachPixelsOverScale = local.reachPixelsOverScale * stretch;
-    return scene;
+    mapped.local = t.mapRect(local.local);
+    mapped.reachSceneUnits = local.reachSceneUnits * stretch;
+    mapped.reachPixels = local.reachPixels * stretch;
+    mapped.reachPixelsOverScale = local.reachPixelsOverScale * stretch;
+    return mapped;
+}
+
+IndexExtent unitedIndexExtent(IndexExtent const &a, IndexExtent const &b)
+{
+    IndexExtent u;
+    // By the corners: QRectF::united drops a rectangle without area, which
+    // here may still be a point or a segment that a reach grows.
+    double const left = std::min(a.local.left(), b.local.left());
+    double const top = std::min(a.local.top(), b.local.top());
+    double const right = std::max(a.local.right(), b.local.right());
+    double const bottom = std::max(a.local.bottom(), b.local.bottom());
+    u.local = QRectF(left, top, right - left, bottom - top);
+    u.reachSceneUnits = std::max(a.reachSceneUnits, b.reachSceneUnits);
+    u.reachPixels = std::max(a.reachPixels, b.reachPixels);
+    u.reachPixelsOverScale = std::max(a.reachPixelsOverScale, b.reachPixelsOverScale);
+    return u;
+}
+
+IndexExtent sceneIndexExtent(NodeImpl *node)
+{
+    IndexExtent const local = extentWithEffects(node);
+    if (local.isEmpty()) return local;
+    return mappedIndexExtent(local, node->getGraphicsItem()->sceneTransform());
 }
 
 } // namespace VOR2

@@ -18,6 +18,7 @@
 // side). Pure values; computed on the host thread with the node.
 
 #include <QRectF>
+#include <QTransform>
 
 namespace VOR2 {
 
@@ -52,5 +53,15 @@ struct IndexExtent {
 // parent. A perspective transform has no such constant: the node is then
 // given the whole usable plane. Host thread.
 IndexExtent sceneIndexExtent(NodeImpl *node);
+
+// The pieces of sceneIndexExtent, for nodes whose extent is made of others'
+// (a composite's of its subtree's): a node's own extent widened by the
+// reach of its effects, in its coordinates; an extent mapped by `t` as
+// above; and the smallest extent that holds both of two at every scale
+// (the rectangle over both, the largest of each reach), a point or a
+// segment without area counting as much as any rectangle. Host thread.
+IndexExtent extentWithEffects(NodeImpl *node);
+IndexExtent mappedIndexExtent(IndexExtent const &extent, QTransform const &t);
+IndexExtent unitedIndexExtent(IndexExtent const &a, IndexExtent const &b);
 
 } // namespace VOR2

@@ -383,7 +383,19 @@ void NodeImpl::itemChangeHook(QGraphicsItem::GraphicsItemChange change, QVariant
     case QGraphicsItem::ItemSceneHasChanged:
         if (!getGraphicsItem()->parentItem()) stampSiblingOrder(); // a new top-level item of its scene
         break;
-    case QGraphicsItem::ItemChildAddedChange: layoutContents(); break;
+    case QGraphicsItem::ItemChildAddedChange: {
+        NodeImpl const *child = fromItem(value.value<QGraphicsItem *>());
+        if (child && child->constraints != 0) m_constrainedChildHint = true;
+        // Qt sorts the children again after each one joins, when asked for
+        // them: a thousand joining must not cost a thousand sorts.
+        layoutItems();
+        break;
+    }
+    case QGraphicsItem::ItemChildRemovedChange:
+        // A composite's bounds are its subtree's: a child leaving any node
+        // of it changes them, and nobody else reports that.
+        if (getOwnUpdateHandler() || m_updateHandlerOverridden) notifyGeometryChanged(false);
+        break;
     case QGraphicsItem::ItemSelectedHasChanged: onSelectedHasChanged(value.toBool()); break;
     default: break;
     }

@@ -14,6 +14,7 @@
 #include <Bounds>
 #include <CacheType>
 #include <DrawStyle>
+#include <LayoutConstraints>
 #include <Node>
 
 #include <cstdint>
@@ -212,6 +213,30 @@ public:
     virtual void renderEffect(Effect *effect, QPainter *painter, QStyleOptionGraphicsItem const *option,
                               QWidget *widget);
 
+    // --- Layout ---------------------------------------------------------
+    // As a container: the children, and the rectangle of the bounds. As an
+    // item: the rectangle of the bounds in the parent's coordinates (its
+    // own without a parent); sizing replaces the transform by the pure
+    // scale that makes the bounds that size and reports a geometry change;
+    // moving shifts the position by the distance from the top left of the
+    // layout bounds to the point. Deliberate: sizing discards any rotation
+    // or other transform of the node, so a node under layout carries none,
+    // and its geometry should start at its origin (it is placed, then
+    // scaled about the origin). An axis on which the bounds have no extent
+    // keeps the scale 1: no scale can stretch nothing, and the quotient
+    // (an infinity or a NaN) would spoil the node's bounds and the scene's
+    // index.
+    QList<LayoutItem *> getLayoutItems() override;
+    GLOX::GLRect<double> getLayoutRect() override;
+    GLOX::GLRect<double> getLayoutBounds() override;
+    void setLayoutSize(double width, double height) override;
+    void setLayoutPosition(GLOX::GLPoint<double> const &p) override;
+    // Sets or clears one bit of the constraint mask; values outside the
+    // enumeration are ignored. Reports nothing: the flag takes effect at
+    // the parent's next layout.
+    void setLayoutConstraintFlag(LayoutConstraints constraint, bool on);
+    bool getLayoutConstraintFlag(LayoutConstraints constraint) const;
+
     // --- Qt item changes ------------------------------------------------
     // Call before changing the Qt item in a way Qt marks dirty (position,
     // transform, bounding rectangle): holds Qt's item updates in the
@@ -234,6 +259,11 @@ protected:
     QPainterPath itemShape();
     bool itemCollidesWithPath(QPainterPath const &path);
     void destroy() override;
+    // Children without constraints cost a layout no walk of them; asking
+    // whether there are children at all costs Qt a sort of them.
+    bool hasLayoutItems() override;
+    bool mayHaveConstrainedItems() override { return m_constrainedChildHint; }
+    void noConstrainedItemsFound() override { m_constrainedChildHint = false; }
 
 public:
     // Where this node stands in a batch of pending changes: the batch's
@@ -278,6 +308,9 @@ private:
     Bounds m_boundsCache;
     bool m_offscreenDirty = true;
     bool m_ownershipGuarded = false;
+    // Set when a child may carry layout constraints: one got a constraint
+    // or joined with one. Cleared by a layout that finds none.
+    bool m_constrainedChildHint = false;
     mutable PendingSlot m_pendingSlot;
     mutable IndexSlot m_indexSlot;
     DrawStyle m_drawStyle;

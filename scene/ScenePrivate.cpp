@@ -1,4 +1,6 @@
 #include "scene/ScenePrivate.h"
+
+#include <QCoreApplication>
 #include "values/UsableNumber.h"
 
 #include <Behavior>
@@ -58,6 +60,11 @@ ScenePrivate::ScenePrivate(Scene *scene)
     // on every zoom: the scene keeps its own (m_index), which holds at
     // every scale.
     setItemIndexMethod(QGraphicsScene::NoIndex);
+    // Qt gives an item the keyboard focus only in an active scene, and what
+    // makes a scene active is a view in an active window. The library shows
+    // scenes through no Qt view: the scene is made active once, for good.
+    QEvent activate(QEvent::WindowActivate);
+    QCoreApplication::sendEvent(this, &activate);
     // A scene rectangle of its own spares Qt a walk of every item to grow
     // one each time it announces a change; the library never reads it.
     setSceneRect(QRectF(-COORDINATE_LIMIT, -COORDINATE_LIMIT, 2 * COORDINATE_LIMIT, 2 * COORDINATE_LIMIT));

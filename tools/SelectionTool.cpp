@@ -3,12 +3,15 @@
 
 #include <SelectionTool>
 
+#include <TextNode>
+
 #include <Behavior>
 #include <ContextMenuEvent>
 #include <KeyEvent>
 #include <MouseEvent>
 #include <Scene>
 
+#include "scene/NodeImpl.h"
 #include "tools/DragThreshold.h"
 
 namespace VOR2 {
@@ -122,11 +125,25 @@ bool SelectionTool::shouldInvokeBehavior() const
 void SelectionTool::invokeMoveTool(KeyEvent &) {}
 void SelectionTool::invokeMoveTool(MouseEvent &) {}
 
-bool SelectionTool::isEditableText(Node const &) const { return false; }
+bool SelectionTool::isEditableText(Node const &node) const
+{
+    TextNode const text(node.getImpl());
+    return text.isValid() && text.isEditable();
+}
 
+// The text's focus in puts the editing tool on the stack. The replayed
+// press and release place the caret at the pointer; with select-all on
+// focus they would undo the selection, and are left out.
 void SelectionTool::enterTextEditing(Node text, MouseEvent *event)
 {
     text.setFocus(GLOX::MouseFocusReason);
+    TextNode const textNode(text.getImpl());
+    if (textNode.isValid() && text.hasFocus() && !textNode.isFocusSelectAll()) {
+        MouseEvent press(EventType::MousePress, event->getGLEvent());
+        text.getImpl()->emitMousePressEvent(press);
+        MouseEvent release(EventType::MouseRelease, event->getGLEvent());
+        text.getImpl()->emitMouseReleaseEvent(release);
+    }
     event->consume();
 }
 

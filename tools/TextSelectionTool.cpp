@@ -26,11 +26,31 @@ void TextSelectionTool::handOver(E &event, void (NodeImpl::*operation)(E &))
 void TextSelectionTool::handleMousePressEvent(MouseEvent &event)
 {
     Node target = m_target.promote();
-    if (target.isValid() && m_scene->getNodeAt(event.scenePos()) == target) {
+    Node const hit = m_scene->getNodeAt(event.scenePos());
+    if (target.isValid() && hit == target) {
         handOver(event, &NodeImpl::emitMousePressEvent);
         return;
     }
+    // The node's own children (its delete button) have the press first.
+    bool const onChild = target.isValid() && isWithin(hit, target);
+    if (onChild) {
+        hit.getImpl()->emitMousePressEvent(event);
+        if (event.isConsumed()) return;
+    }
     m_done = true; // not consumed: the tools below act on the press
+    if (target.isValid() && !onChild) leave(target);
+}
+
+bool TextSelectionTool::isWithin(Node node, Node const &ancestor)
+{
+    for (; node.isValid(); node = node.getParent())
+        if (node == ancestor) return true;
+    return false;
+}
+
+void TextSelectionTool::leave(Node const &target)
+{
+    if (target.getScene() && target.hasFocus()) target.clearFocus();
 }
 
 void TextSelectionTool::handleMouseMoveEvent(MouseEvent &event)
@@ -48,6 +68,8 @@ void TextSelectionTool::handleKeyPressEvent(KeyEvent &event)
     if (event.key() == Qt::Key_Escape) {
         m_done = true;
         event.consume();
+        Node target = m_target.promote();
+        if (target.isValid()) leave(target);
         return;
     }
     handOver(event, &NodeImpl::emitKeyPressEvent);

@@ -1,11 +1,15 @@
 // The stroke effect on pixels: inside, on and outside the edge of each
-// node kind at scales 1 and 3; its bounds, width and notifications.
+// node kind, paths included, at scales 1 and 3; its bounds, width and
+// notifications.
 
 #include <ConstantLodScale>
 #include <EffectStroke>
 #include <EllipseNode>
 #include <LineNode>
 #include <NodeEffects>
+#include <ClosedLinearPathNode>
+#include <OpenCurvedPathNode>
+#include <OpenLinearPathNode>
 #include <ShapeNode>
 
 #include "support/NodeStyles.h"
@@ -61,6 +65,24 @@ std::vector<Kind> kinds()
              LineNode line({10, 20}, {30, 20});
              line.setStroke(Stroke(GLOX::Color(), 2.0));
              return Node(line);
+         },
+         true, 19, 20, 2, Qt::black},
+        // Paths are outlined as a shape (closed) or as a line (open).
+        {"closed linear path",
+         [=] { return styled(ClosedLinearPathNode({{10, 10}, {30, 10}, {30, 30}, {10, 30}})); }, false, 10, 20, 20,
+         Qt::blue},
+        {"open linear path",
+         [] {
+             OpenLinearPathNode path({{10, 20}, {25, 20}, {30, 20}});
+             path.setStroke(Stroke(GLOX::Color(), 2.0));
+             return Node(path);
+         },
+         true, 19, 20, 2, Qt::black},
+        {"open curved path",
+         [] {
+             OpenCurvedPathNode path({Vertex({10, 20}), Vertex({30, 20})});
+             path.setStroke(Stroke(GLOX::Color(), 2.0));
+             return Node(path);
          },
          true, 19, 20, 2, Qt::black},
     };

@@ -4,7 +4,16 @@
 
 #include <ConstantInLodScale>
 #include <ConstantLodScale>
+#include <CompositeNode>
 #include <ConstantOutLodScale>
+#include <ContainerNode>
+#include <CustomNode>
+#include <CustomNodePainter>
+#include <EffectColorOverlay>
+#include <EffectGlow>
+#include <EffectInnerGlow>
+#include <EffectInnerShadow>
+#include <EffectShadow>
 #include <EffectStroke>
 #include <EllipseNode>
 #include <Error>
@@ -12,8 +21,13 @@
 #include <Image>
 #include <ImageNode>
 #include <LineNode>
+#include <OpenCurvedPathNode>
+#include <OpenLinearPathNode>
+#include <ClosedCurvedPathNode>
+#include <ClosedLinearPathNode>
 #include <RectNode>
 #include <RoundedRectNode>
+#include <TextNode>
 #include <Scene>
 #include <SelectionNonLinearLodScale>
 #include <NodeEffects>
@@ -40,6 +54,17 @@
 using namespace VOR2;
 
 namespace {
+
+// A custom node's painter: a filled box, whose outline is its bounds.
+struct BoxPainter : CustomNodePainter {
+    GLOX::GLRect<double> box;
+    explicit BoxPainter(GLOX::GLRect<double> const &b) : box(b) {}
+    Bounds getBounds() override { return Bounds(box); }
+    void paint(QPainter *painter, QStyleOptionGraphicsItem const *, QWidget *) override
+    {
+        painter->fillRect(GLOX::toQRectF(box), QColor(40, 160, 90));
+    }
+};
 
 // Builds and changes random scenes, and asks both ways.
 class RandomScene {
@@ -68,10 +93,60 @@ public:
         double w = chance(0.1) ? 0.0 : uniform(0.5, 60), h = chance(0.1) ? 0.0 : uniform(0.5, 60);
         return {uniform(-50, 400), uniform(-50, 400), w, h};
     }
+    // One to six points near each other, sometimes with sharp turns.
+    GLOX::GVector<GLOX::GLPoint<double>> points()
+    {
+        GLOX::GVector<GLOX::GLPoint<double>> result;
+        GLOX::GLPoint<double> p(uniform(-50, 400), uniform(-50, 400));
+        for (int i = 1 + below(6); i > 0; --i) {
+            result.append(p);
+            p += GLOX::GLPoint<double>(uniform(-40, 40), uniform(-40, 40));
+        }
+        return result;
+    }
+    GLOX::GVector<Vertex> vertices()
+    {
+        GLOX::GVector<Vertex> result;
+        for (GLOX::GLPoint<double> const &p : points())
+            result.append(Vertex(p, {uniform(-30, 30), uniform(-30, 30)}, {uniform(-30, 30), uniform(-30, 30)}));
+        return result;
+    }
+    // Arrow-head stand-ins at either end, some backing the path off.
+    template <typename Path>
+    void decorate(Path const &path)
+    {
+        auto head = [&] {
+            LineEndDecoration d(RectNode(GLOX::GLRect<double>(-4, -4, 8, 8)));
+            if (chance(0.5)) d.setLineBackoff(uniform(0, 6));
+            return d;
+        };
+        if (chance(0.3)) path.setStartDecoration(head());
+        if (chance(0.3)) path.setEndDecoration(head());
+    }
+    // Now and then a node that holds or draws others: a composite or a
+    // container with a few children of their own, or a custom node.
     Node node()
     {
+        int const kind = below(12);
+        if (kind > 2) return primitive();
+        if (kind == 2) {
+            CustomNode custom;
+            custom.setPainter(new BoxPainter(rect()));
+            return custom;
+        }
+        Node group = kind == 0 ? Node(CompositeNode()) : Node(ContainerNode());
+        for (int i = 1 + below(3); i > 0; --i) {
+            Node child = primitive();
+            child.setParent(group);
+            transform(child);
+            m_nodes.push_back(child);
+        }
+        return group;
+    }
+    Node primitive()
+    {
         Node n;
-        switch (below(6)) {
+        switch (below(11)) {
         case 0: n = RectNode(rect()); break;
         case 1: n = RoundedRectNode(rect(), chance(0.2) ? 0.0 : uniform(0.5, 10)); break;
         case 2: n = EllipseNode(Ellipse(rect())); break;
@@ -96,6 +171,28 @@ public:
             n = ShapeNode(GLOX::Shape(star));
             break;
         }
+        case 6: {
+            OpenLinearPathNode path(points());
+            decorate(path);
+            n = path;
+            break;
+        }
+        case 7: n = ClosedLinearPathNode(points()); break;
+        case 8: {
+            OpenCurvedPathNode path(vertices());
+            decorate(path);
+            n = path;
+            break;
+        }
+        case 9: n = ClosedCurvedPathNode(vertices()); break;
+        case 10: {
+            static char const *const texts[] = {"", "x", "gjpqy", "two\nlines of text"};
+            TextNode text(texts[below(4)], {uniform(-50, 400), uniform(-50, 400)});
+            text.setHorizontalAlignment(below(3));
+            text.setVerticalAlignment(1 + below(3));
+            n = text;
+            break;
+        }
         default: {
             QImage pixels(8, 6, QImage::Format_ARGB32_Premultiplied);
             pixels.fill(Qt::red);
@@ -116,12 +213,34 @@ public:
             n.setSelected(!n.isSelected());
             return;
         }
-        Stroke s = stroke();
-        if (s.isNoStroke()) s = Stroke(GLOX::Color(1, 0, 0), 3.0);
-        GLOX::Holder<EffectStroke> e(new EffectStroke(s, StrokeInsetType(below(4))));
+        GLOX::Holder<Effect> e;
+        if (chance(0.5)) {
+            e = imageEffect();
+        } else {
+            Stroke s = stroke();
+            if (s.isNoStroke()) s = Stroke(GLOX::Color(1, 0, 0), 3.0);
+            e = GLOX::Holder<Effect>(new EffectStroke(s, StrokeInsetType(below(4))));
+        }
         if (chance(0.2)) e->setOpacity(0.0);
         n.getEffects().add(e.get(), chance(0.5) ? "a" : "b");
         if (chance(0.2)) n.getEffects().disable(e.get());
+    }
+    // A glow, shadow, inner glow, inner shadow or overlay of random spread
+    // (negative too), distance and scale function.
+    GLOX::Holder<Effect> imageEffect()
+    {
+        EffectGlow *glow = nullptr;
+        switch (below(5)) {
+        case 0: glow = new EffectGlow; break;
+        case 1: glow = new EffectShadow; break;
+        case 2: glow = new EffectInnerGlow; break;
+        case 3: glow = new EffectInnerShadow; break;
+        default: return GLOX::Holder<Effect>(new EffectColorOverlay);
+        }
+        glow->setSpread(below(30) - 5);
+        glow->setDistance({below(41) - 20, below(41) - 20});
+        glow->setScaleFunction(stroke().scaleFunction());
+        return GLOX::Holder<Effect>(glow);
     }
     void transform(Node const &n)
     {
@@ -133,9 +252,10 @@ public:
     void build(int count)
     {
         for (int i = 0; i < count; ++i) {
+            std::size_t const known = m_nodes.size(); // not the new node's own children
             Node n = node();
-            if (!m_nodes.empty() && chance(0.3))
-                n.setParent(m_nodes[size_t(below(int(m_nodes.size())))]);
+            if (known > 0 && chance(0.3))
+                n.setParent(m_nodes[size_t(below(int(known)))]);
             else
                 m_scene->addNode(n);
             transform(n);
@@ -244,6 +364,9 @@ private:
                     << e.local.width() << "x" << e.local.height() << " reach " << e.reachSceneUnits << " "
                     << e.reachPixels << " " << e.reachPixelsOverScale << " parent " << (item->parentItem() != nullptr)
                     << " br " << item->boundingRect().width();
+                if (NodeEffectsImpl const *effects = n->getEffectsImpl())
+                    for (auto const *binding : effects->bindings())
+                        out << " effect " << binding->effect->getFullyQualifiedTcosTypeName();
             }
         return out.str();
     }
