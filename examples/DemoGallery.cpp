@@ -1,6 +1,7 @@
 #include "DemoGallery.h"
 #include "GalleryContainersRow.h"
 #include "GalleryPathsRow.h"
+#include "GalleryResizeRow.h"
 #include "GalleryGlowRow.h"
 #include "GalleryTextRow.h"
 
@@ -171,6 +172,7 @@ void buildGallery(Scene &scene)
     addContainersRow(scene, cell(0, 6).y);
     addGlowRow(scene, 20 + 7 * CELL_H);
     galleryTextRow(scene, 20 + 8 * CELL_H);
+    galleryResizeRow(scene, 20 + 9 * CELL_H);
 }
 
 QImage renderAtScale(Scene const &scene, double scale, int margin)

@@ -5,6 +5,7 @@
 #include <EllipseNode>
 #include <MouseEvent>
 #include <ResizeBehavior>
+#include <ResizeControls>
 
 #include "support/SceneFixture.h"
 #include "tools/ResizeGeometry.h"
@@ -140,4 +141,32 @@ TEST_F(ResizeBehaviorTest, OnlyARectangleChangesAndAGoneTargetIsLeftAlone)
     scene->handleMouseMoveEvent(move);
     EXPECT_TRUE(move.isConsumed());
     EXPECT_EQ(handle.getRect(), R(200, 0, 10, 10));
+}
+
+TEST_F(ResizeBehaviorTest, HandlesAreInstalledWholeOnlyInASceneAndRemovedWithTheirBehaviours)
+{
+    RectNode loose = rect(0, 0, 100, 50);
+    EXPECT_FALSE(installResizeControls(loose, true));
+    EXPECT_TRUE(loose.getChildren().isEmpty()) << "no handle is left behind";
+
+    RectNode box = added(rect(0, 0, 100, 50));
+    ASSERT_TRUE(installCornerResizeControls(box, true));
+    GLOX::GList<Node> corners = box.getChildrenWithTag("CornerResizeHandle");
+    ASSERT_EQ(corners.size(), 4);
+    for (Node const &h : corners) EXPECT_NE(h.getBehavior(), nullptr);
+    // Two of four: the set is rebuilt; four: nothing changes.
+    corners[1].remove();
+    corners[3].remove();
+    ASSERT_TRUE(installCornerResizeControls(box, false));
+    GLOX::GList<Node> rebuilt = box.getChildrenWithTag("CornerResizeHandle");
+    EXPECT_EQ(rebuilt.size(), 4);
+    EXPECT_FALSE(rebuilt.contains(corners[0])) << "the survivors were replaced";
+    EXPECT_TRUE(installCornerResizeControls(box, true));
+    EXPECT_EQ(box.getChildrenWithTag("CornerResizeHandle"), rebuilt);
+
+    ASSERT_TRUE(installSideResizeControls(box, true));
+    EXPECT_EQ(box.getChildren().size(), 8);
+    removeResizeControls(box);
+    EXPECT_TRUE(box.getChildren().isEmpty());
+    for (Node const &h : rebuilt) EXPECT_EQ(h.getScene(), nullptr);
 }

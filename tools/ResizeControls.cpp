@@ -1,0 +1,116 @@
+#include <CustomNode>
+#include <LayoutConstraints>
+#include <ResizeBehavior>
+#include <ResizeControls>
+#include <ResizeHandlePainter>
+
+#include "GLOX/Cursor.h"
+
+#include <initializer_list>
+#include <optional>
+
+namespace VOR2 {
+
+namespace {
+using H = HorizontalAlignment;
+using V = VerticalAlignment;
+using L = LayoutConstraints;
+
+// One handle: the edges it drags, where it sits (none: the parent's
+// origin), the anchors that keep it there and the cursor over it.
+struct HandleSpec {
+    H h;
+    V v;
+    std::optional<GLOX::GLPoint<double>> at;
+    std::initializer_list<L> anchors;
+    Qt::CursorShape cursor;
+};
+
+GLOX::StringID const &cornerTag()
+{
+    static GLOX::StringID const id("CornerResizeHandle");
+    return id;
+}
+
+GLOX::StringID const &sideTag()
+{
+    static GLOX::StringID const id("SideResizeHandle");
+    return id;
+}
+
+void removeHandles(Node const &node, GLOX::StringID const &tag)
+{
+    for (Node const &handle : node.getChildrenWithTag(tag)) {
+        handle.clearBehavior();
+        handle.remove();
+    }
+}
+
+bool installHandles(Node const &node, bool visible, GLOX::StringID const &tag, HandleSpec const (&specs)[4])
+{
+    int const count = node.getChildrenWithTag(tag).size();
+    if (count == 4) return true;
+    if (count > 0) removeHandles(node, tag);
+    for (HandleSpec const &spec : specs) {
+        CustomNode handle;
+        handle.setPainter(new ResizeHandlePainter(node, visible, spec.h, spec.v));
+        if (spec.at) handle.setPosition(*spec.at);
+        handle.setParent(node);
+        GLOX::Holder<ResizeBehavior> behavior = ResizeBehavior::create(node, spec.h, spec.v);
+        if (!behavior) {
+            handle.remove();
+            removeResizeControls(node);
+            return false;
+        }
+        handle.setBehavior(behavior.get());
+        for (L anchor : spec.anchors) handle.setLayoutConstraintFlag(anchor, true);
+        handle.addTag(tag);
+        handle.setCursor(GLOX::Cursor(spec.cursor));
+    }
+    return true;
+}
+} // namespace
+
+bool installCornerResizeControls(Node const &node, bool visible)
+{
+    GLOX::GLRect<double> const r = node.getBoundingRect();
+    HandleSpec const specs[4] = {
+        {H::Left, V::Top, std::nullopt, {L::Top, L::Left}, Qt::SizeFDiagCursor},
+        {H::Right, V::Top, GLOX::GLPoint<double>(r.x + r.width, r.y), {L::Top, L::Right}, Qt::SizeBDiagCursor},
+        {H::Right, V::Bottom, GLOX::GLPoint<double>(r.x + r.width, r.y + r.height), {L::Bottom, L::Right},
+         Qt::SizeFDiagCursor},
+        {H::Left, V::Bottom, GLOX::GLPoint<double>(r.x, r.y + r.height), {L::Bottom, L::Left}, Qt::SizeBDiagCursor},
+    };
+    return installHandles(node, visible, cornerTag(), specs);
+}
+
+// Side handles sit at the middles of a rectangle of the node's size from
+// the origin, not from the bounding rectangle's corner.
+bool installSideResizeControls(Node const &node, bool visible)
+{
+    GLOX::GLRect<double> const r = node.getBoundingRect();
+    double const w = r.width, h = r.height;
+    HandleSpec const specs[4] = {
+        {H::Left, V::Center, GLOX::GLPoint<double>(0.0, 0.5 * h), {L::Top, L::Bottom, L::Left}, Qt::SizeHorCursor},
+        {H::Center, V::Top, GLOX::GLPoint<double>(0.5 * w, 0.0), {L::Top, L::Left, L::Right}, Qt::SizeVerCursor},
+        {H::Right, V::Center, GLOX::GLPoint<double>(w, 0.5 * h), {L::Top, L::Bottom, L::Right}, Qt::SizeHorCursor},
+        {H::Center, V::Bottom, GLOX::GLPoint<double>(0.5 * w, h), {L::Bottom, L::Left, L::Right}, Qt::SizeVerCursor},
+    };
+    return installHandles(node, visible, sideTag(), specs);
+}
+
+bool installResizeControls(Node const &node, bool visible)
+{
+    return installCornerResizeControls(node, visible) && installSideResizeControls(node, visible);
+}
+
+void removeCornerResizeControls(Node const &node) { removeHandles(node, cornerTag()); }
+void removeSideResizeControls(Node const &node) { removeHandles(node, sideTag()); }
+
+void removeResizeControls(Node const &node)
+{
+    removeCornerResizeControls(node);
+    removeSideResizeControls(node);
+}
+
+} // namespace VOR2
