@@ -59,7 +59,7 @@ void registerAll(Options const &o)
     int const r = o.repetitions;
     std::vector<int> sizes{1000, 10000};
     if (!o.quick) sizes.push_back(100000);
-    for (Workload w : {Workload::W1, Workload::W2, Workload::W1S}) {
+    for (Workload w : {Workload::W1, Workload::W2, Workload::W1S, Workload::W3}) {
         for (int n : sizes) {
             // Fewer iterations as the scenes grow; every benchmark of one
             // size shares the same built scenes.

@@ -2,11 +2,17 @@
 
 #include <EffectStroke>
 #include <EllipseNode>
+#include <ClosedCurvedPathNode>
+#include <ClosedLinearPathNode>
 #include <GlobalViewerInfo>
 #include <LineNode>
 #include <NodeEffects>
+#include <OpenCurvedPathNode>
+#include <OpenLinearPathNode>
 #include <RectNode>
 #include <RoundedRectNode>
+#include <ShapeNode>
+#include <Vertex>
 
 #include "scene/SceneRegionRenderer.h"
 #include "scene/ScenePrivate.h"
@@ -14,6 +20,7 @@
 #include <QGraphicsEllipseItem>
 #include <QGraphicsLineItem>
 #include <QGraphicsPathItem>
+#include <QGraphicsPolygonItem>
 #include <QGraphicsRectItem>
 #include <QPainterPath>
 
@@ -57,6 +64,53 @@ public:
     }
 };
 
+// W3's arrow head, as a VOR2 node: the decoration turns and places it.
+VOR2::LineEndDecoration arrowDecoration(Shape const &s)
+{
+    QPainterPath head;
+    head.addPolygon(arrowHead());
+    head.closeSubpath();
+    VOR2::ShapeNode node{GLOX::Shape(head)};
+    node.setDrawStyle(VOR2::DrawStyle(VOR2::Stroke(GLOX::Color(0.0, 0.0, 0.0), 0.0),
+                                      VOR2::Fill(GLOX::fromQColor(s.fill))));
+    VOR2::LineEndDecoration decoration(node);
+    decoration.setLineBackoff(ARROW_LENGTH);
+    return decoration;
+}
+
+VOR2::Node makePathNode(Shape const &s)
+{
+    if (!s.curved) {
+        GLOX::GVector<GLOX::GLPoint<double>> points;
+        points.reserve(int(s.points.size()));
+        for (QPointF const &p : s.points) points.append({p.x(), p.y()});
+        if (!s.arrow) {
+            VOR2::ClosedLinearPathNode node;
+            node.setPoints(points);
+            return node;
+        }
+        VOR2::OpenLinearPathNode node;
+        node.setPoints(points);
+        node.setEndDecoration(arrowDecoration(s));
+        return node;
+    }
+    GLOX::GVector<VOR2::Vertex> vertices;
+    vertices.reserve(int(s.points.size()));
+    for (QPointF const &p : s.points) vertices.append(VOR2::Vertex({p.x(), p.y()}));
+    if (!s.arrow) {
+        VOR2::ClosedCurvedPathNode node;
+        node.setVertices(vertices);
+        return node;
+    }
+    // The last vertex's forward tangent only turns the head.
+    QPointF d = s.points.back() - s.points[s.points.size() - 2];
+    vertices.last().forwardTangent = {d.x(), d.y()};
+    VOR2::OpenCurvedPathNode node;
+    node.setVertices(vertices);
+    node.setEndDecoration(arrowDecoration(s));
+    return node;
+}
+
 VOR2::Node makeNode(Shape const &s)
 {
     GLOX::GLRect<double> r(s.rect.x(), s.rect.y(), s.rect.width(), s.rect.height());
@@ -68,9 +122,11 @@ VOR2::Node makeNode(Shape const &s)
         node = VOR2::LineNode({s.rect.left(), s.rect.top()}, {s.rect.right(), s.rect.bottom()});
         break;
     case ShapeKind::RoundedRect: node = VOR2::RoundedRectNode(r, ROUNDED_RADIUS); break;
+    case ShapeKind::Path: node = makePathNode(s); break;
     }
     VOR2::Stroke hairline(GLOX::Color(0.0, 0.0, 0.0), 0.0);
-    VOR2::Fill fill = s.kind == ShapeKind::Line ? VOR2::Fill() : VOR2::Fill(GLOX::fromQColor(s.fill));
+    bool const unfilled = s.kind == ShapeKind::Line || (s.kind == ShapeKind::Path && s.arrow);
+    VOR2::Fill fill = unfilled ? VOR2::Fill() : VOR2::Fill(GLOX::fromQColor(s.fill));
     node.setDrawStyle(VOR2::DrawStyle(hairline, fill));
     if (s.outlined) node.getEffects().add(sharedOutline());
     return node;
@@ -104,6 +160,20 @@ QGraphicsItem *makeItem(Shape const &s)
         auto *item = new QGraphicsPathItem(path);
         item->setPen(hairline);
         item->setBrush(fill);
+        return item;
+    }
+    case ShapeKind::Path: {
+        auto *item = new QGraphicsPathItem(pathOf(s));
+        item->setPen(hairline);
+        if (!s.arrow) {
+            item->setBrush(fill);
+            return item;
+        }
+        auto *head = new QGraphicsPolygonItem(arrowHead(), item);
+        head->setPen(hairline);
+        head->setBrush(fill);
+        head->setPos(arrowTip(s));
+        head->setRotation(arrowDegrees(s));
         return item;
     }
     }
@@ -187,6 +257,18 @@ void paintShapesDirectly(QPainter &painter, std::vector<Shape> const &list, QRec
         case ShapeKind::RoundedRect:
             painter.setBrush(s.fill);
             painter.drawRoundedRect(s.rect, ROUNDED_RADIUS, ROUNDED_RADIUS);
+            break;
+        case ShapeKind::Path:
+            painter.setBrush(s.arrow ? QBrush() : QBrush(s.fill));
+            painter.drawPath(pathOf(s));
+            if (s.arrow) {
+                painter.save();
+                painter.translate(arrowTip(s));
+                painter.rotate(arrowDegrees(s));
+                painter.setBrush(s.fill);
+                painter.drawPolygon(arrowHead());
+                painter.restore();
+            }
             break;
         }
     }

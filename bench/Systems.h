@@ -1,8 +1,10 @@
 #pragma once
 // The systems under measurement, each holding the same shapes:
 //   VOR2      one Scene of nodes (RectNode, EllipseNode, LineNode,
-//             RoundedRectNode) with a per-node draw style;
-//   QtBsp     a plain QGraphicsScene of Qt's standard items, BSP index;
+//             RoundedRectNode, the four path nodes with ShapeNode arrow
+//             heads) with a per-node draw style;
+//   QtBsp     a plain QGraphicsScene of Qt's standard items (paths as
+//             QGraphicsPathItem, heads as child QGraphicsPolygonItem), BSP index;
 //   QtNoIndex the same with QGraphicsScene::NoIndex;
 //   Painter   no scene: the shape list drawn with QPainter directly.
 // Everything here runs on the host thread (the benchmark's main thread).

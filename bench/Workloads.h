@@ -3,7 +3,9 @@
 // fixed seed, for VOR2, plain Qt Graphics View and direct QPainter drawing.
 //
 // W1: rectangles. W2: rectangles, ellipses, lines and rounded rectangles in
-// turn. W1S: W1's rectangles, each also outlined on its edge by a pen 3
+// turn. W3: paths of 4 to 32 points, linear and curved in turn; every other
+// pair is open with an arrow head at its end (a filled triangle the line
+// stops short of), the rest closed and filled. W1S: W1's rectangles, each also outlined on its edge by a pen 3
 // units wide, red at three quarters (VOR2: one stroke effect shared by
 // every node; Qt: an item that draws the outline after the rectangle).
 // Each shape is 10 to 60 units on a side, somewhere in a 20000 by
@@ -11,6 +13,8 @@
 // hairline (lines have the outline only).
 
 #include <QColor>
+#include <QPainterPath>
+#include <QPolygonF>
 #include <QPointF>
 #include <QRectF>
 #include <string>
@@ -21,15 +25,36 @@ namespace bench {
 constexpr double SCENE_SIZE = 20000.0;
 constexpr double ROUNDED_RADIUS = 4.0;
 
-enum class Workload { W1, W2, W1S };
-enum class ShapeKind { Rect, Ellipse, Line, RoundedRect };
+enum class Workload { W1, W2, W1S, W3 };
+enum class ShapeKind { Rect, Ellipse, Line, RoundedRect, Path };
 
 struct Shape {
     ShapeKind kind;
     QRectF rect; // for a line: from the top-left to the bottom-right corner
     QColor fill;
     bool outlined = false; // W1S
+    // W3: the path's points (rect is their bounding box), whether it is a
+    // curve through them, and whether it is open with an arrow head.
+    std::vector<QPointF> points;
+    bool curved = false;
+    bool arrow = false;
 };
+
+// W3's arrow head: a triangle ARROW_LENGTH long and ARROW_WIDTH across,
+// its tip on the path's last point; the path stops ARROW_LENGTH short.
+constexpr double ARROW_LENGTH = 6.0;
+constexpr double ARROW_WIDTH = 4.0;
+// The head in its own coordinates, tip at the origin, pointing along +x.
+QPolygonF arrowHead();
+// Where the head goes: the path's last point, and the angle in degrees of
+// the direction it points in (from the last but one point to the last).
+QPointF arrowTip(Shape const &s);
+double arrowDegrees(Shape const &s);
+// The path a W3 shape draws, as VOR2 builds it: an open path stopped short
+// by the arrow head, a closed one closed by a straight side; a curve runs
+// through every point with interior tangents half the span of its
+// neighbours and ends with zero tangents.
+QPainterPath pathOf(Shape const &s);
 
 // The outline of W1S: its pen, and how far it reaches beyond the shape.
 constexpr double OUTLINE_WIDTH = 3.0;

@@ -3,6 +3,7 @@
 #include "effects/InsetBand.h"
 #include "nodes/CustomNodeImpl.h"
 #include "nodes/TextNodeImpl.h"
+#include "nodes/OutlineStroker.h"
 #include "scene/NodeImpl.h"
 
 #include <QPainter>
@@ -103,7 +104,8 @@ char const *EffectStroke::getFullyQualifiedTcosTypeName() const { return "VOR2.E
 void EffectStroke::renderPrivate(Bounds const &bounds, StrokeInsetType inset, bool antialias, QPainter *painter,
                                  QStyleOptionGraphicsItem const *option, QWidget *)
 {
-    QPainterPath path = bounds.asQPainterPath();
+    // Only the region's edge is drawn, not where its contours overlap.
+    QPainterPath path = asOneRegion(bounds.asQPainterPath());
     double const w = effectiveWidth(option->levelOfDetail);
     // The painter's origin is the top-left of the bounds.
     GLOX::GLRect<double> const r = bounds.boundingRect();

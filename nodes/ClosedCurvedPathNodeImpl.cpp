@@ -29,6 +29,11 @@ Bounds ClosedCurvedPathNodeImpl::computeStrokedOutline(double scale)
     return closedStrokedOutline(geometricPath(), getDrawStyle().stroke(), scale);
 }
 
+QRectF ClosedCurvedPathNodeImpl::computeStrokedOutlineRect(double scale)
+{
+    return closedStrokedOutlineRect(geometricPath(), getDrawStyle().stroke(), scale);
+}
+
 IndexExtent ClosedCurvedPathNodeImpl::getIndexExtent()
 {
     if (vertices().isEmpty()) return IndexExtent();

@@ -21,6 +21,9 @@ public:
     Bounds computeBounds() override;
     IndexExtent getIndexExtent() override;
     Bounds computeStrokedOutline(double scale) override;
+    QRectF computeStrokedOutlineRect(double scale) override;
+    // The hit area is the stroked outline.
+    QRectF computeHitBoundsRect(double scale) override { return computeStrokedOutlineRect(scale); }
     void paintContents(QPainter *painter, QStyleOptionGraphicsItem const *option, QWidget *widget) override;
     // The effect's renderClosedCurvedPath method, else its generic one.
     void renderEffect(Effect *effect, QPainter *painter, QStyleOptionGraphicsItem const *option,

@@ -29,6 +29,11 @@ Bounds ClosedLinearPathNodeImpl::computeStrokedOutline(double scale)
     return closedStrokedOutline(geometricPath(), getDrawStyle().stroke(), scale);
 }
 
+QRectF ClosedLinearPathNodeImpl::computeStrokedOutlineRect(double scale)
+{
+    return closedStrokedOutlineRect(geometricPath(), getDrawStyle().stroke(), scale);
+}
+
 IndexExtent ClosedLinearPathNodeImpl::getIndexExtent()
 {
     if (points().isEmpty()) return IndexExtent();

@@ -19,6 +19,9 @@ public:
     Bounds computeBounds() override;
     IndexExtent getIndexExtent() override;
     Bounds computeStrokedOutline(double scale) override;
+    QRectF computeStrokedOutlineRect(double scale) override;
+    // The hit area is the stroked outline.
+    QRectF computeHitBoundsRect(double scale) override { return computeStrokedOutlineRect(scale); }
     // Draws only with more than two points; with fewer it leaves the
     // painter as it was.
     void paintContents(QPainter *painter, QStyleOptionGraphicsItem const *option, QWidget *widget) override;

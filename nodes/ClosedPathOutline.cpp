@@ -12,6 +12,11 @@ Bounds closedStrokedOutline(QPainterPath const &path, Stroke const &stroke, doub
     return Bounds(strokedArea(path, stroke, scale, StrokerShape::FromStroke));
 }
 
+QRectF closedStrokedOutlineRect(QPainterPath const &path, Stroke const &stroke, double scale)
+{
+    return strokedAreaRect(path, stroke, scale, StrokerShape::FromStroke);
+}
+
 IndexExtent closedIndexExtent(Bounds const &bounds, Stroke const &stroke)
 {
     double const growth = std::max(capGrowth(stroke.capStyle()), joinGrowth(stroke.joinStyle())) * CURVE_SLACK;

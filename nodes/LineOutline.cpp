@@ -10,23 +10,10 @@
 
 namespace VOR2 {
 
-namespace {
-// A stroke outline as one region. The outline of one straight segment is a
-// single closed contour that never crosses itself and is kept as it is;
-// only outlines of several contours go through QPainterPath::simplified,
-// a boolean operation that costs far more than the stroke itself.
-QPainterPath simplifiedOutline(QPainterPath const &outline)
-{
-    int contours = 0;
-    for (int i = 0; i < outline.elementCount(); ++i)
-        contours += outline.elementAt(i).type == QPainterPath::MoveToElement;
-    return contours == 1 ? outline : outline.simplified();
-}
-} // namespace
 
 Bounds lineStrokedOutline(QPainterPath const &path, Stroke const &stroke, double scale)
 {
-    return Bounds(simplifiedOutline(strokeOutline(path, stroke, scale, StrokerShape::FromStroke)));
+    return Bounds(strokeOutline(path, stroke, scale, StrokerShape::FromStroke));
 }
 
 Bounds lineHitBounds(QPainterPath const &path, Stroke const &stroke, double scale, double tolerance)
@@ -34,7 +21,7 @@ Bounds lineHitBounds(QPainterPath const &path, Stroke const &stroke, double scal
     double const w = std::max(stroke.width(scale), 2 * tolerance);
     QPainterPathStroker stroker;
     stroker.setWidth(w / scale);
-    return Bounds(simplifiedOutline(stroker.createStroke(path)));
+    return Bounds(stroker.createStroke(path));
 }
 
 // With the stroke's width W(s) <= a + b / s, the outline reaches

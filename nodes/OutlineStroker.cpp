@@ -27,6 +27,12 @@ QPainterPath strokedArea(QPainterPath const &path, Stroke const &stroke, double 
     return strokeOutline(path, stroke, scale, shape).united(path);
 }
 
+QRectF strokedAreaRect(QPainterPath const &path, Stroke const &stroke, double scale, StrokerShape shape)
+{
+    if (stroke.isNoStroke()) return path.boundingRect();
+    return strokeOutline(path, stroke, scale, shape).boundingRect() | path.boundingRect();
+}
+
 QRectF pointStrokedRect(QRectF const &r, Stroke const &stroke, double scale)
 {
     double const half = stroke.isNoStroke() ? 0.0 : 0.5 * stroke.width(scale);
@@ -60,6 +66,14 @@ QPainterPath convexStrokedArea(QPainterPath const &path, Stroke const &stroke, d
     QPainterPath outer = contours[area(contours[0]) >= area(contours[1]) ? 0 : 1];
     outer.closeSubpath();
     return outer;
+}
+
+QPainterPath asOneRegion(QPainterPath const &outline)
+{
+    int contours = 0;
+    for (int i = 0; i < outline.elementCount() && contours < 2; ++i)
+        contours += outline.elementAt(i).type == QPainterPath::MoveToElement;
+    return contours < 2 ? outline : outline.simplified();
 }
 
 } // namespace VOR2

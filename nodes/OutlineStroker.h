@@ -14,12 +14,19 @@ namespace VOR2 {
 enum class StrokerShape { Default, FromStroke };
 
 // The outline of the stroke alone along `path`, as wide as `stroke` at
-// `scale`, whatever its line style.
+// `scale`, whatever its line style. Where the stroke crosses or folds over
+// itself the outline's contours overlap; its winding fill rule makes them
+// one region for every area test and union, so it is kept as it is (merging
+// the contours is a boolean operation that costs far more than the stroke).
+// Whoever draws its edge merges it first: see asOneRegion.
 QPainterPath strokeOutline(QPainterPath const &path, Stroke const &stroke, double scale, StrokerShape shape);
 
 // What painting `path` with `stroke` at `scale` covers: the path alone when
 // the stroke draws nothing, else the stroke's outline united with the path.
 QPainterPath strokedArea(QPainterPath const &path, Stroke const &stroke, double scale, StrokerShape shape);
+// The bounding rectangle of strokedArea, from the path's and the stroke
+// outline's own rectangles, without their union.
+QRectF strokedAreaRect(QPainterPath const &path, Stroke const &stroke, double scale, StrokerShape shape);
 
 // strokedArea for one closed convex subpath (an ellipse, a rounded
 // rectangle), with Qt's default pen shape: the stroke's outer contour, which
@@ -34,5 +41,9 @@ QPainterPath convexStrokedArea(QPainterPath const &path, Stroke const &stroke, d
 // rectangle node's), so that it lies where the shape is and not at the
 // origin.
 QRectF pointStrokedRect(QRectF const &r, Stroke const &stroke, double scale);
+
+// `outline` with overlapping contours merged, so that drawing its edge
+// draws no edge inside the region; an outline of one contour as it is.
+QPainterPath asOneRegion(QPainterPath const &outline);
 
 } // namespace VOR2

@@ -31,6 +31,11 @@ Bounds ShapeNodeImpl::computeStrokedOutline(double scale)
     return Bounds(strokedArea(m_shape.getPath(), getDrawStyle().stroke(), scale, StrokerShape::FromStroke));
 }
 
+QRectF ShapeNodeImpl::computeStrokedOutlineRect(double scale)
+{
+    return strokedAreaRect(m_shape.getPath(), getDrawStyle().stroke(), scale, StrokerShape::FromStroke);
+}
+
 IndexExtent ShapeNodeImpl::getIndexExtent()
 {
     if (m_shape.isEmpty()) return IndexExtent();

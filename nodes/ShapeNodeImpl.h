@@ -28,6 +28,9 @@ public:
     // The shape widened by the stroke at `scale`, with the stroke's own cap
     // and join, united with its interior.
     Bounds computeStrokedOutline(double scale) override;
+    QRectF computeStrokedOutlineRect(double scale) override;
+    // The hit area is the stroked outline.
+    QRectF computeHitBoundsRect(double scale) override { return computeStrokedOutlineRect(scale); }
     // Nothing at all for an empty shape: not even the painter is touched.
     void paintContents(QPainter *painter, QStyleOptionGraphicsItem const *option, QWidget *widget) override;
     // The effect's renderShape method, else its generic one.

@@ -291,14 +291,27 @@ Bounds NodeImpl::getCachedHitBounds(double scale)
 
 Bounds NodeImpl::computeStrokedOutline(double) { return getBounds(); }
 
+QRectF NodeImpl::computeStrokedOutlineRect(double scale)
+{
+    return GLOX::toQRectF(getCachedStrokedOutline(scale).boundingRect());
+}
+
+// Effects measure themselves on the outline's shape; without any, its
+// rectangle is all that is needed.
 Bounds NodeImpl::computeMaximumBounds(double scale)
 {
-    Bounds bounds = getCachedStrokedOutline(scale);
-    if (NodeEffectsImpl *effects = getEffectsImpl()) bounds = effects->computeEffectsMaximumBounds(bounds, scale);
+    NodeEffectsImpl *effects = getEffectsImpl();
+    if (!effects || !effects->hasEffects()) return Bounds(computeStrokedOutlineRect(scale));
+    Bounds const bounds = effects->computeEffectsMaximumBounds(getCachedStrokedOutline(scale), scale);
     return Bounds(bounds.boundingRect());
 }
 
 Bounds NodeImpl::computeHitBounds(double scale) { return getCachedStrokedOutline(scale); }
+
+QRectF NodeImpl::computeHitBoundsRect(double scale)
+{
+    return GLOX::toQRectF(getCachedHitBounds(scale).boundingRect());
+}
 
 QRectF NodeImpl::itemBoundingRect()
 {
@@ -307,7 +320,7 @@ QRectF NodeImpl::itemBoundingRect()
     void const *const key = view->getKey();
     if (m_itemRectScale == scale && m_itemRectKey == key) return m_itemRect;
     GLOX::GLRect<double> r =
-        getCachedMaximumBounds(scale).boundingRect().united(getCachedHitBounds(scale).boundingRect());
+        getCachedMaximumBounds(scale).boundingRect().united(GLOX::toDRect(computeHitBoundsRect(scale)));
     QRectF const rect = r.isValid() ? GLOX::toQRectF(r) : QRectF(-1.0, -1.0, -1.0, -1.0);
     m_itemRectKey = key;
     m_itemRectScale = scale;

@@ -162,9 +162,16 @@ public:
 
     virtual Bounds computeBounds() = 0;
     virtual Bounds computeStrokedOutline(double scale);
+    // The bounding rectangle of computeStrokedOutline(scale). Kinds whose
+    // outline is a costly union of regions answer it from the parts' own
+    // rectangles, so that drawing and culling at a new scale cost no union.
+    virtual QRectF computeStrokedOutlineRect(double scale);
     // The rectangle that holds the stroked outline and every effect.
     virtual Bounds computeMaximumBounds(double scale);
     virtual Bounds computeHitBounds(double scale);
+    // The bounding rectangle of the hit bounds at `scale`; as
+    // computeStrokedOutlineRect, for kinds whose hit area is a costly union.
+    virtual QRectF computeHitBoundsRect(double scale);
     // Where the node reaches at every view scale (see IndexExtent), for a
     // spatial index that is not rebuilt on zoom. Computed on each call from
     // the geometry and the draw style, without path work beyond the cached
