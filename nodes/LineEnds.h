@@ -31,6 +31,12 @@ public:
     // without a valid decoration or a backoff.
     QPointF backoff(End end) const { return GLOX::toQPointF(decoration(end).getBackoffVector()); }
 
+    // How many of the decorations hold `node`.
+    int handlesOn(NodeImpl const *node) const
+    {
+        return (m_start.getNode().getImpl() == node) + (m_finish.getNode().getImpl() == node);
+    }
+
 private:
     LineEndDecoration &at(End end) { return end == Start ? m_start : m_finish; }
 

@@ -64,6 +64,8 @@ public:
                       QWidget *widget) override;
     bool paintIgnoresPainterState() const override { return true; }
 
+    int handlesHeldOnChild(NodeImpl const *child) const override { return m_ends.handlesOn(child); }
+
 private:
     QPainterPath geometricPath() const;
     double hitTolerance() const;

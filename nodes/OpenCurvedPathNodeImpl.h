@@ -45,6 +45,8 @@ public:
     void renderEffect(Effect *effect, QPainter *painter, QStyleOptionGraphicsItem const *option,
                       QWidget *widget) override;
 
+    int handlesHeldOnChild(NodeImpl const *child) const override { return m_ends.handlesOn(child); }
+
 private:
     QPainterPath geometricPath() const;
     double hitTolerance() const;

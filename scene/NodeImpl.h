@@ -292,6 +292,10 @@ public:
     // the deletion to the scene, which deletes its items in one sweep. Only
     // for a node nobody holds. Host thread.
     void releaseForSceneDeath();
+    // How many counted handles on its child `child` this node holds itself
+    // (a line's end decorations): references that go when this node goes,
+    // so a dying scene need not keep the child for them.
+    virtual int handlesHeldOnChild(NodeImpl const *) const { return 0; }
 
 private:
     // The links destroy() and releaseForSceneDeath() both cut last.

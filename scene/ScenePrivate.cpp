@@ -161,8 +161,11 @@ void ScenePrivate::destroyScene()
 
 void ScenePrivate::collectSurvivors(NodeImpl *node, GLOX::GList<NodeImpl *> &survivors)
 {
-    // Attachment holds one reference; more means a handle holds the node.
-    if (node->refCount() > 1) {
+    // Attachment holds one reference; more means a handle holds the node,
+    // unless its parent, which dies with the scene, holds that handle.
+    NodeImpl const *parent = node->getParentImpl();
+    int const heldByParent = parent ? parent->handlesHeldOnChild(node) : 0;
+    if (int(node->refCount()) - heldByParent > 1) {
         survivors.append(node);
         return;
     }

@@ -208,3 +208,29 @@ TEST(LineEndDecoration, NewNodeTakesThePlaceUnderTheLine)
     EXPECT_EQ(second.getParent(), line);
     EXPECT_EQ(second.getTransform().map(P(0, 0)), P(5, 0));
 }
+
+// The heads a line holds die with the line when the scene dies; they are not
+// kept alive, nor detached one by one, for the line's own handles on them.
+TEST(LineEndDecoration, ASceneTakesItsDecoratedLinesHeadsAlongWhenItDies)
+{
+    int const before = liveNodeCount();
+    {
+        GLOX::Holder<Scene> scene = Scene::createScene();
+        for (int i = 0; i < 3; ++i) {
+            LineNode line(P(0, i), P(10, i));
+            line.setStartDecoration(LineEndDecoration(head()));
+            line.setEndDecoration(LineEndDecoration(head()));
+            scene->addNode(line);
+        }
+        RectNode kept = head(); // a head the client holds outlives the scene, detached
+        LineNode holder(P(0, 9), P(10, 9));
+        holder.setEndDecoration(LineEndDecoration(kept));
+        scene->addNode(holder);
+        holder = LineNode();
+        scene.reset();
+        EXPECT_TRUE(kept.isValid());
+        EXPECT_FALSE(kept.getParent().isValid());
+        EXPECT_EQ(kept.getScene(), nullptr);
+    }
+    EXPECT_EQ(liveNodeCount(), before);
+}
