@@ -183,4 +183,17 @@ void InputPlayback::dragLeave()
     });
 }
 
+Qt::CursorShape InputPlayback::viewportCursor() const
+{
+    Qt::CursorShape shape = Qt::BitmapCursor;
+    QAbstractScrollArea *w = m_widget;
+    HostRuntime::bridge().runOnGui([&] { shape = w->viewport()->cursor().shape(); }, true);
+    return shape;
+}
+
+bool InputPlayback::waitForViewportCursor(Qt::CursorShape shape) const
+{
+    return HostRuntime::loop().runUntil([&] { return viewportCursor() == shape; }, 5000ms);
+}
+
 } // namespace VOR2::test

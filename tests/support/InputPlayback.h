@@ -53,6 +53,13 @@ public:
 
     QAbstractScrollArea *widget() const { return m_widget; }
 
+    // The cursor shape the viewport shows, read on the GUI thread.
+    Qt::CursorShape viewportCursor() const;
+    // Runs the host loop until the viewport shows `shape` (the widget hears
+    // of a cursor change by a queued call on its thread); false when it
+    // never does.
+    bool waitForViewportCursor(Qt::CursorShape shape) const;
+
 private:
     // Runs `play` on the GUI thread, then the host loop until idle.
     template <typename F>

@@ -49,20 +49,8 @@ struct PointedCanvas : ::testing::Test {
     }
     void TearDown() override { input.hide(); }
 
-    // The shape the viewport shows, read on the GUI thread.
-    Qt::CursorShape shown() const
-    {
-        Qt::CursorShape shape = Qt::BitmapCursor;
-        QAbstractScrollArea *w = input.widget();
-        HostRuntime::bridge().runOnGui([&] { shape = w->viewport()->cursor().shape(); }, true);
-        return shape;
-    }
-    // Waits for the viewport to show `shape`: the widget hears of a cursor
-    // change by a queued call on its thread. False when it never does.
-    bool shows(Qt::CursorShape shape)
-    {
-        return HostRuntime::loop().runUntil([&] { return shown() == shape; }, 5000ms);
-    }
+    Qt::CursorShape shown() const { return input.viewportCursor(); }
+    bool shows(Qt::CursorShape shape) { return input.waitForViewportCursor(shape); }
 };
 
 } // namespace

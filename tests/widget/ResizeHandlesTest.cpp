@@ -58,17 +58,8 @@ struct HandledRect : ::testing::Test {
         input.move(view(to), Qt::LeftButton);
         input.release(view(to));
     }
-    Qt::CursorShape shown() const
-    {
-        Qt::CursorShape shape = Qt::BitmapCursor;
-        QAbstractScrollArea *w = input.widget();
-        HostRuntime::bridge().runOnGui([&] { shape = w->viewport()->cursor().shape(); }, true);
-        return shape;
-    }
-    bool shows(Qt::CursorShape shape)
-    {
-        return HostRuntime::loop().runUntil([&] { return shown() == shape; }, 5000ms);
-    }
+    Qt::CursorShape shown() const { return input.viewportCursor(); }
+    bool shows(Qt::CursorShape shape) { return input.waitForViewportCursor(shape); }
     // The scene position of the handle node with `tag` nearest `at`.
     P handleNear(char const *tag, P at) const
     {
