@@ -72,6 +72,14 @@ void registerAll(Options const &o)
             if (w == Workload::W1 && n == sizes.back()) registerGuiPaint(w, n, 8, r);
         }
     }
+    // Texts: build, full-view render and zoom at 10k, the size a diagram's
+    // labels reach.
+    for (int n : {1000, 10000}) {
+        int it = n <= 1000 ? 8 : 4;
+        registerLifecycle(Workload::W4, n, 1, r);
+        registerRenders(Workload::W4, n, it, r);
+        registerZoom(Workload::W4, n, it, r);
+    }
     if (!o.quick)
         for (Workload w : {Workload::W1, Workload::W2}) registerLifecycle(w, 1000000, 1, 3);
     registerGlows(8, r);

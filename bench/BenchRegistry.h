@@ -21,6 +21,9 @@ void registerQueries(Workload w, int n, int iterations, int repetitions);
 void registerHover(Workload w, int n, int iterations, int repetitions);
 void registerRenders(Workload w, int n, int iterations, int repetitions);
 void registerServer(Workload w, int n, int iterations, int repetitions);
+// zoom_step alone, for workloads whose single move the Qt side does not
+// redraw comparably (W4's text items).
+void registerZoom(Workload w, int n, int iterations, int repetitions);
 void registerGuiPaint(Workload w, int n, int iterations, int repetitions);
 // Image effects against Qt's (GlowBench).
 void registerGlows(int iterations, int repetitions);

@@ -72,6 +72,11 @@ void zoomStep(benchmark::State &state, Workload w, int n)
 void registerServer(Workload w, int n, int iterations, int repetitions)
 {
     registerBench("move_one", w, n, iterations * 4, repetitions, [=](benchmark::State &s) { moveOne(s, w, n); });
+    registerZoom(w, n, iterations, repetitions);
+}
+
+void registerZoom(Workload w, int n, int iterations, int repetitions)
+{
     registerBench("zoom_step", w, n, iterations, repetitions, [=](benchmark::State &s) { zoomStep(s, w, n); });
 }
 

@@ -12,6 +12,7 @@
 #include <RectNode>
 #include <RoundedRectNode>
 #include <ShapeNode>
+#include <TextNode>
 #include <Vertex>
 
 #include "scene/SceneRegionRenderer.h"
@@ -21,6 +22,7 @@
 #include <QGraphicsLineItem>
 #include <QGraphicsPathItem>
 #include <QGraphicsPolygonItem>
+#include <QGraphicsTextItem>
 #include <QGraphicsRectItem>
 #include <QPainterPath>
 
@@ -123,6 +125,7 @@ VOR2::Node makeNode(Shape const &s)
         break;
     case ShapeKind::RoundedRect: node = VOR2::RoundedRectNode(r, ROUNDED_RADIUS); break;
     case ShapeKind::Path: node = makePathNode(s); break;
+    case ShapeKind::Text: return VOR2::TextNode(s.text.toStdString(), {s.rect.x(), s.rect.y()});
     }
     VOR2::Stroke hairline(GLOX::Color(0.0, 0.0, 0.0), 0.0);
     bool const unfilled = s.kind == ShapeKind::Line || (s.kind == ShapeKind::Path && s.arrow);
@@ -160,6 +163,11 @@ QGraphicsItem *makeItem(Shape const &s)
         auto *item = new QGraphicsPathItem(path);
         item->setPen(hairline);
         item->setBrush(fill);
+        return item;
+    }
+    case ShapeKind::Text: {
+        auto *item = new QGraphicsTextItem(s.text);
+        item->setPos(s.rect.topLeft());
         return item;
     }
     case ShapeKind::Path: {
@@ -257,6 +265,9 @@ void paintShapesDirectly(QPainter &painter, std::vector<Shape> const &list, QRec
         case ShapeKind::RoundedRect:
             painter.setBrush(s.fill);
             painter.drawRoundedRect(s.rect, ROUNDED_RADIUS, ROUNDED_RADIUS);
+            break;
+        case ShapeKind::Text:
+            painter.drawText(QRectF(s.rect.topLeft(), QSizeF(400, 100)), Qt::AlignLeft | Qt::AlignTop, s.text);
             break;
         case ShapeKind::Path:
             painter.setBrush(s.arrow ? QBrush() : QBrush(s.fill));

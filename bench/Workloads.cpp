@@ -20,7 +20,7 @@ double uniform(std::mt19937 &g, double lo, double hi) { return lo + (hi - lo) * 
 // A W3 path of 4 to 32 points inside the box `r`.
 Shape path(std::mt19937 &g, int i, QRectF const &r, QColor const &fill)
 {
-    Shape s{ShapeKind::Path, r, fill, false, {}, false, false};
+    Shape s{ShapeKind::Path, r, fill, false, {}, false, false, {}};
     int const count = 4 + int(g() % 29);
     for (int k = 0; k < count; ++k)
         s.points.emplace_back(uniform(g, r.left(), r.right()), uniform(g, r.top(), r.bottom()));
@@ -40,12 +40,20 @@ std::vector<Shape> generate(Workload w, int n)
     for (int i = 0; i < n; ++i) {
         double wd = uniform(g, 10, 60), ht = uniform(g, 10, 60);
         double x = uniform(g, 0, SCENE_SIZE - wd), y = uniform(g, 0, SCENE_SIZE - ht);
+        if (w == Workload::W4) {
+            static char const *const WORDS[] = {"node", "scene", "graph", "path", "glow", "text", "view", "zoom",
+                                                "tool", "layer", "edge", "arrow", "label", "value", "point", "shape"};
+            QString text;
+            for (int k = 1 + int(g() % 3); k > 0; --k) text += QString(text.isEmpty() ? "" : " ") + WORDS[g() % 16];
+            out.push_back({ShapeKind::Text, QRectF(x, y, 0, 0), Qt::black, false, {}, false, false, text});
+            continue;
+        }
         if (w == Workload::W3) {
             out.push_back(path(g, i, QRectF(x, y, wd, ht), PALETTE[g() % 8]));
             continue;
         }
         ShapeKind kind = w == Workload::W2 ? ShapeKind(i % 4) : ShapeKind::Rect;
-        out.push_back({kind, QRectF(x, y, wd, ht), PALETTE[g() % 8], w == Workload::W1S, {}, false, false});
+        out.push_back({kind, QRectF(x, y, wd, ht), PALETTE[g() % 8], w == Workload::W1S, {}, false, false, {}});
     }
     return out;
 }
@@ -58,6 +66,7 @@ std::string workloadName(Workload w)
     case Workload::W2: return "W2";
     case Workload::W1S: return "W1S";
     case Workload::W3: return "W3";
+    case Workload::W4: return "W4";
     }
     return "?";
 }
@@ -124,6 +133,10 @@ QPainterPath pathOf(Shape const &s)
 QRectF paintedRect(Shape const &s, double scale)
 {
     double m = 1.0 / scale + (s.outlined ? OUTLINE_WIDTH / 2 + 0.5 / scale : 0.0);
+    if (s.kind == ShapeKind::Text) {
+        // A generous box for three short words in the default font.
+        return QRectF(s.rect.topLeft(), QSizeF(200, 40)).adjusted(-m, -m, m, m);
+    }
     if (s.kind == ShapeKind::Path) {
         // A curve may swing outside its points' box; the head reaches half
         // its width past the last point.

@@ -5,7 +5,9 @@
 // W1: rectangles. W2: rectangles, ellipses, lines and rounded rectangles in
 // turn. W3: paths of 4 to 32 points, linear and curved in turn; every other
 // pair is open with an arrow head at its end (a filled triangle the line
-// stops short of), the rest closed and filled. W1S: W1's rectangles, each also outlined on its edge by a pen 3
+// stops short of), the rest closed and filled. W4: plain texts of one to
+// three words in the default font, black, placed by their top left (rect is
+// where the text starts; its size is not known before layout). W1S: W1's rectangles, each also outlined on its edge by a pen 3
 // units wide, red at three quarters (VOR2: one stroke effect shared by
 // every node; Qt: an item that draws the outline after the rectangle).
 // Each shape is 10 to 60 units on a side, somewhere in a 20000 by
@@ -15,6 +17,7 @@
 #include <QColor>
 #include <QPainterPath>
 #include <QPolygonF>
+#include <QString>
 #include <QPointF>
 #include <QRectF>
 #include <string>
@@ -25,8 +28,8 @@ namespace bench {
 constexpr double SCENE_SIZE = 20000.0;
 constexpr double ROUNDED_RADIUS = 4.0;
 
-enum class Workload { W1, W2, W1S, W3 };
-enum class ShapeKind { Rect, Ellipse, Line, RoundedRect, Path };
+enum class Workload { W1, W2, W1S, W3, W4 };
+enum class ShapeKind { Rect, Ellipse, Line, RoundedRect, Path, Text };
 
 struct Shape {
     ShapeKind kind;
@@ -38,6 +41,7 @@ struct Shape {
     std::vector<QPointF> points;
     bool curved = false;
     bool arrow = false;
+    QString text; // W4
 };
 
 // W3's arrow head: a triangle ARROW_LENGTH long and ARROW_WIDTH across,
