@@ -18,7 +18,7 @@ using L = LayoutConstraints;
 
 // One handle: the edges it drags, where it sits (none: the parent's
 // origin), the anchors that keep it there and the cursor over it.
-struct HandleSpec {
+struct HandlePlace {
     H h;
     V v;
     std::optional<GLOX::GLPoint<double>> at;
@@ -46,26 +46,26 @@ void removeHandles(Node const &node, GLOX::StringID const &tag)
     }
 }
 
-bool installHandles(Node const &node, bool visible, GLOX::StringID const &tag, HandleSpec const (&specs)[4])
+bool installHandles(Node const &node, bool visible, GLOX::StringID const &tag, HandlePlace const (&places)[4])
 {
     int const count = node.getChildrenWithTag(tag).size();
     if (count == 4) return true;
     if (count > 0) removeHandles(node, tag);
-    for (HandleSpec const &spec : specs) {
+    for (HandlePlace const &place : places) {
         CustomNode handle;
-        handle.setPainter(new ResizeHandlePainter(node, visible, spec.h, spec.v));
-        if (spec.at) handle.setPosition(*spec.at);
+        handle.setPainter(new ResizeHandlePainter(node, visible, place.h, place.v));
+        if (place.at) handle.setPosition(*place.at);
         handle.setParent(node);
-        GLOX::Holder<ResizeBehavior> behavior = ResizeBehavior::create(node, spec.h, spec.v);
+        GLOX::Holder<ResizeBehavior> behavior = ResizeBehavior::create(node, place.h, place.v);
         if (!behavior) {
             handle.remove();
             removeResizeControls(node);
             return false;
         }
         handle.setBehavior(behavior.get());
-        for (L anchor : spec.anchors) handle.setLayoutConstraintFlag(anchor, true);
+        for (L anchor : place.anchors) handle.setLayoutConstraintFlag(anchor, true);
         handle.addTag(tag);
-        handle.setCursor(GLOX::Cursor(spec.cursor));
+        handle.setCursor(GLOX::Cursor(place.cursor));
     }
     return true;
 }
@@ -74,14 +74,14 @@ bool installHandles(Node const &node, bool visible, GLOX::StringID const &tag, H
 bool installCornerResizeControls(Node const &node, bool visible)
 {
     GLOX::GLRect<double> const r = node.getBoundingRect();
-    HandleSpec const specs[4] = {
+    HandlePlace const places[4] = {
         {H::Left, V::Top, std::nullopt, {L::Top, L::Left}, Qt::SizeFDiagCursor},
         {H::Right, V::Top, GLOX::GLPoint<double>(r.x + r.width, r.y), {L::Top, L::Right}, Qt::SizeBDiagCursor},
         {H::Right, V::Bottom, GLOX::GLPoint<double>(r.x + r.width, r.y + r.height), {L::Bottom, L::Right},
          Qt::SizeFDiagCursor},
         {H::Left, V::Bottom, GLOX::GLPoint<double>(r.x, r.y + r.height), {L::Bottom, L::Left}, Qt::SizeBDiagCursor},
     };
-    return installHandles(node, visible, cornerTag(), specs);
+    return installHandles(node, visible, cornerTag(), places);
 }
 
 // Side handles sit at the middles of a rectangle of the node's size from
@@ -90,13 +90,13 @@ bool installSideResizeControls(Node const &node, bool visible)
 {
     GLOX::GLRect<double> const r = node.getBoundingRect();
     double const w = r.width, h = r.height;
-    HandleSpec const specs[4] = {
+    HandlePlace const places[4] = {
         {H::Left, V::Center, GLOX::GLPoint<double>(0.0, 0.5 * h), {L::Top, L::Bottom, L::Left}, Qt::SizeHorCursor},
         {H::Center, V::Top, GLOX::GLPoint<double>(0.5 * w, 0.0), {L::Top, L::Left, L::Right}, Qt::SizeVerCursor},
         {H::Right, V::Center, GLOX::GLPoint<double>(w, 0.5 * h), {L::Top, L::Bottom, L::Right}, Qt::SizeHorCursor},
         {H::Center, V::Bottom, GLOX::GLPoint<double>(0.5 * w, h), {L::Bottom, L::Left, L::Right}, Qt::SizeVerCursor},
     };
-    return installHandles(node, visible, sideTag(), specs);
+    return installHandles(node, visible, sideTag(), places);
 }
 
 bool installResizeControls(Node const &node, bool visible)
