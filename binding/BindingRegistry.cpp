@@ -1,0 +1,113 @@
+#include "binding/BindingRegistry.h"
+
+#include "binding/ScriptError.h"
+
+namespace VOR2::script {
+
+BindingRegistry &BindingRegistry::instance()
+{
+    static BindingRegistry registry;
+    return registry;
+}
+
+Binding *BindingRegistry::findByAddress(void const *address)
+{
+    auto it = m_byAddress.find(address);
+    if (it == m_byAddress.end()) return nullptr;
+    Binding &b = m_byId.at(it->second);
+    // A node that died since keeps its entry for the script objects that
+    // remain, but a new node at the same address is another object.
+    if (!b.node.isValid() && !b.referenced && !b.owned) {
+        m_byAddress.erase(it);
+        b.address = nullptr;
+        return nullptr;
+    }
+    return &b;
+}
+
+Binding &BindingRegistry::add(void const *address, std::string const &className)
+{
+    std::uint64_t id = m_nextId++;
+    Binding &b = m_byId[id];
+    b.id = id;
+    b.className = className;
+    b.address = address;
+    m_byAddress[address] = id;
+    return b;
+}
+
+Value BindingRegistry::announceNode(Node const &node)
+{
+    if (!node.isValid()) return Value::handle("VOR2.Node", 0);
+    NodeImpl *impl = node.getImpl();
+    Binding *b = findByAddress(impl);
+    if (!b) {
+        b = &add(impl, node.getFullyQualifiedTcosTypeName());
+        b->node = node;
+    }
+    ++b->scriptObjects;
+    return Value::handle(b->className, b->id);
+}
+
+Value BindingRegistry::announceReferenced(Referenced *object, std::string const &className)
+{
+    if (!object) return Value::handle(className, 0);
+    Binding *b = findByAddress(object);
+    if (!b) {
+        b = &add(object, className);
+        b->referenced = GLOX::Holder<Referenced>(object);
+    }
+    ++b->scriptObjects;
+    return Value::handle(b->className, b->id);
+}
+
+Value BindingRegistry::announceOwned(void *object, std::string const &className)
+{
+    if (!object) return Value::handle(className, 0);
+    Binding *b = findByAddress(object);
+    if (!b) {
+        b = &add(object, className);
+        b->owned = object;
+    }
+    ++b->scriptObjects;
+    return Value::handle(b->className, b->id);
+}
+
+Binding &BindingRegistry::find(std::uint64_t id)
+{
+    auto it = m_byId.find(id);
+    if (it == m_byId.end()) raise("VOR2:InvalidObject", "The object this value referred to no longer exists");
+    return it->second;
+}
+
+void BindingRegistry::release(std::uint64_t id)
+{
+    auto it = m_byId.find(id);
+    if (it == m_byId.end() || --it->second.scriptObjects > 0) return;
+    Binding dying = std::move(it->second);
+    if (dying.address) m_byAddress.erase(dying.address);
+    m_byId.erase(it);
+    // The references go last, after the maps are consistent: dropping a node
+    // or a scene may run code that announces other objects.
+}
+
+void BindingRegistry::retract(void const *address)
+{
+    auto it = m_byAddress.find(address);
+    if (it == m_byAddress.end()) return;
+    Binding &b = m_byId.at(it->second);
+    b.address = nullptr;
+    b.owned = nullptr;
+    b.referenced.reset();
+    b.node = Node();
+    m_byAddress.erase(it);
+}
+
+void BindingRegistry::clear()
+{
+    std::unordered_map<std::uint64_t, Binding> dying;
+    dying.swap(m_byId);
+    m_byAddress.clear();
+}
+
+} // namespace VOR2::script

@@ -1,0 +1,87 @@
+#pragma once
+// VOR2::script::BindingRegistry: the script host's view of library objects.
+// Each library object that script values refer to has one entry, found by
+// the object's address and named by an id; every script object of that
+// library object carries the id. Whoever fetches the object, however often,
+// meets the same entry, and the entry holds the one reference the script
+// side has on the object:
+//
+//   copied handles (the Node family)  a Node handle: the node lives while its
+//                                     scene, a parent or the entry holds it;
+//                                     once removed, every call on the entry
+//                                     fails with VOR2_InvalidNode
+//   referenced objects (Scene, Effect a counted reference
+//   and its kinds, Behavior, ...)
+//   host-owned objects (Viewer)       only a pointer: the library owns it and
+//                                     retracts it when it goes first
+//
+// The entry counts its live script objects: announce adds one (the gateway
+// makes a script object for every handle Value it hands out), release takes
+// one away, and the last release drops the reference and the entry.
+// retract(address) is the library's notice that an object died first: its
+// entry stays for the script objects still around, but refers to nothing,
+// and the next call through it fails.
+//
+// Host thread only; counts are plain.
+
+#include "Node"
+#include "binding/ScriptValue.h"
+
+#include "GLOX/Holder.h"
+#include "GLOX/ReferencedTemplate.h"
+
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <unordered_map>
+
+namespace VOR2::script {
+
+using Referenced = GLOX::ReferencedTemplate<unsigned int>;
+
+struct Binding {
+    std::uint64_t id = 0;
+    std::string className;
+    void const *address = nullptr;
+    Node node;
+    GLOX::Holder<Referenced> referenced;
+    void *owned = nullptr;
+    int scriptObjects = 0;
+};
+
+class BindingRegistry {
+public:
+    static BindingRegistry &instance();
+
+    // A handle Value for `node`, of the script class of its kind; the empty
+    // array of "VOR2.Node" for an empty handle.
+    Value announceNode(Node const &node);
+    // A handle Value for a counted object; `className` is its script class.
+    // A null pointer gives the empty array of that class.
+    Value announceReferenced(Referenced *object, std::string const &className);
+    // A handle Value for an object the library owns (no reference taken).
+    Value announceOwned(void *object, std::string const &className);
+
+    // The entry of a live id, or throws "VOR2:InvalidObject" for an id that
+    // has no entry (a script value outliving the registry's reset).
+    Binding &find(std::uint64_t id);
+    void release(std::uint64_t id);
+    void retract(void const *address);
+
+    std::size_t size() const { return m_byId.size(); }
+    // True when the object at `address` has a live entry.
+    bool contains(void const *address) const { return m_byAddress.count(address) != 0; }
+
+    // Test hook: drops every entry and its references.
+    void clear();
+
+private:
+    Binding *findByAddress(void const *address);
+    Binding &add(void const *address, std::string const &className);
+
+    std::uint64_t m_nextId = 1;
+    std::unordered_map<std::uint64_t, Binding> m_byId;
+    std::unordered_map<void const *, std::uint64_t> m_byAddress;
+};
+
+} // namespace VOR2::script
