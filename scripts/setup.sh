@@ -4,7 +4,8 @@
 set -euo pipefail
 
 PACKAGES=(cmake ninja-build ccache g++ qtbase5-dev googletest libgtest-dev
-          libbenchmark-dev libabsl-dev libboost-dev xvfb xauth poppler-utils)
+          libbenchmark-dev libabsl-dev libboost-dev xvfb xauth poppler-utils
+          octave liboctave-dev)
 
 missing=()
 for p in "${PACKAGES[@]}"; do

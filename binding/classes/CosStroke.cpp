@@ -2,29 +2,10 @@
 #include "Stroke"
 #include "binding/ClassBuilder.h"
 #include "binding/Convert.h"
-#include "binding/EnumNames.h"
+#include "binding/EnumTables.h"
 #include "binding/Package.h"
 
 namespace VOR2::script {
-
-template <>
-std::vector<std::pair<StrokeStyle, char const *>> EnumNames<StrokeStyle>::entries()
-{
-    return {{NoStroke, "NoStroke"}, {SolidLine, "SolidLine"}, {DashLine, "DashLine"}, {DotLine, "DotLine"},
-            {DashDotLine, "DashDotLine"}, {DashDotDotLine, "DashDotDotLine"}};
-}
-
-template <>
-std::vector<std::pair<StrokeCapStyle, char const *>> EnumNames<StrokeCapStyle>::entries()
-{
-    return {{FlatCap, "FlatCap"}, {SquareCap, "SquareCap"}, {RoundCap, "RoundCap"}};
-}
-
-template <>
-std::vector<std::pair<StrokeJoinStyle, char const *>> EnumNames<StrokeJoinStyle>::entries()
-{
-    return {{MiterJoin, "MiterJoin"}, {BevelJoin, "BevelJoin"}, {RoundJoin, "RoundJoin"}, {SvgMiterJoin, "SvgMiterJoin"}};
-}
 
 namespace {
 
