@@ -68,4 +68,6 @@ WeakRef weakRefOfKey(std::uint64_t key)
 
 std::size_t weakRefKeyCount() { return table().byKey.size(); }
 
+void sweepWeakRefKeys() { table().sweep(); }
+
 } // namespace VOR2::script

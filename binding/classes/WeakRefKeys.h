@@ -24,5 +24,7 @@ WeakRef weakRefOfKey(std::uint64_t key);
 
 // The number of keys the table holds, live or not yet swept.
 std::size_t weakRefKeyCount();
+// Drops the keys of dead nodes now; the table also does so as it grows.
+void sweepWeakRefKeys();
 
 } // namespace VOR2::script

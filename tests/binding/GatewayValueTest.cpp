@@ -5,6 +5,7 @@
 #include "Scene"
 #include "binding/BindingRegistry.h"
 #include "binding/Gateway.h"
+#include "binding/classes/WeakRefKeys.h"
 #include "tests/binding/BorderError.h"
 
 #include <gtest/gtest.h>
@@ -184,4 +185,22 @@ TEST_F(GatewayValues, AWeakReferenceDoesNotKeepItsNode)
     Value wb = make("VOR2.WeakRef", {BindingRegistry::instance().announceNode(a)});
     EXPECT_EQ(wa.state().field("Key")->numbers(), wb.state().field("Key")->numbers());
     EXPECT_NE(wa.state().field("Key")->numbers(), weak.state().field("Key")->numbers());
+}
+
+TEST_F(GatewayValues, ASweepDropsTheKeysOfDeadNodesAndKeepsTheLiveOnes)
+{
+    VOR2::RectNode survivor;
+    Value kept = make("VOR2.WeakRef", {BindingRegistry::instance().announceNode(survivor)});
+    sweepWeakRefKeys();
+    std::size_t const before = weakRefKeyCount();
+    {
+        std::vector<VOR2::RectNode> passing(100);
+        for (VOR2::RectNode const &node : passing) weakRefKey(VOR2::WeakRef(node));
+        EXPECT_EQ(weakRefKeyCount(), before + 100);
+    }
+    sweepWeakRefKeys();
+    EXPECT_EQ(weakRefKeyCount(), before);
+    EXPECT_TRUE(get(kept, "isValid").numbers()[0]);
+    EXPECT_EQ(make("VOR2.WeakRef", {BindingRegistry::instance().announceNode(survivor)}).state().field("Key")->numbers(),
+              kept.state().field("Key")->numbers());
 }
