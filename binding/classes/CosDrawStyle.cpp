@@ -50,7 +50,9 @@ ClassInfo cosDrawStyle()
         [](Self &s) { return Value::logical(s.value<DrawStyle>().isAntiAliased()); },
         [](Self &s, Value const &v) { s.value<DrawStyle>().setIsAntiAliased(toBool(v)); });
     c.method("getStroke", "The stroke, a VOR2.Stroke (as the Stroke property).", "stroke")
-        .overload("", 0, [](Self &s, Args const &) { return fromValueOf(s.value<DrawStyle>().stroke(), "VOR2.Stroke"); });
+        .overload("", 0, [](Self &s, Args const &) {
+            return fromValueOf(s.value<DrawStyle>().stroke(), "VOR2.Stroke");
+        });
     return c.build();
 }
 

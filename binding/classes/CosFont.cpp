@@ -23,7 +23,10 @@ Font withFamily(Font const &f, std::string family)
     return Font(std::move(family), f.pointSize(), f.bold(), f.italic());
 }
 Font withSize(Font const &f, double points) { return Font(f.family(), points, f.bold(), f.italic()); }
-Font withWeight(Font const &f, FontWeight w) { return Font(f.family(), f.pointSize(), w == FontWeight::Bold, f.italic()); }
+Font withWeight(Font const &f, FontWeight w)
+{
+    return Font(f.family(), f.pointSize(), w == FontWeight::Bold, f.italic());
+}
 Font withStyle(Font const &f, FontStyle s) { return Font(f.family(), f.pointSize(), f.bold(), s == FontStyle::Italic); }
 
 Value encodeFont(Font const &f)
@@ -66,7 +69,8 @@ ClassInfo cosFont()
         "Style", "char", "Normal or Italic.", [](Self &s) { return styleOf(s.value<Font>()); },
         [](Self &s, Value const &v) { s.value<Font>() = withStyle(s.value<Font>(), toEnum<FontStyle>(v)); });
     c.property(
-        "Size", "double scalar", "The size in points.", [](Self &s) { return Value::scalar(s.value<Font>().pointSize()); },
+        "Size", "double scalar", "The size in points.",
+        [](Self &s) { return Value::scalar(s.value<Font>().pointSize()); },
         [](Self &s, Value const &v) { s.value<Font>() = withSize(s.value<Font>(), toDouble(v)); });
     return c.build();
 }

@@ -64,8 +64,9 @@ ClassInfo cosLineEndDecoration()
                    "of it by the backoff. VOR2.LineEndDecoration(node). Copies share the node. Numbers and points "
                    "that are not finite are ignored.");
     c.valueCodec<Decoration>(&encodeDecoration, &decodeDecoration);
-    c.constructor("node", 1,
-                  [](Self &, Args const &a) { return fromValueOf(Decoration(toNode(a[0])), "VOR2.LineEndDecoration"); });
+    c.constructor("node", 1, [](Self &, Args const &a) {
+        return fromValueOf(Decoration(toNode(a[0])), "VOR2.LineEndDecoration");
+    });
     scalarProperty(c, "RelativePosition", "How far the node is shifted along its forward direction.",
                    &Decoration::getRelativePosition, &Decoration::setRelativePosition);
     scalarProperty(c, "LineBackoff", "How far the line stops short of its end, so that it does not show through.",

@@ -70,7 +70,8 @@ TEST(Convert, TransformsAndPointListsRaiseTheCatalogueErrors)
               std::make_pair(std::string("VOR2:Expected3By3"), std::string("Transform requires a 3x3 matrix")));
     EXPECT_EQ(errorOf([] { toTransform(Value::row(std::vector<double>(9, 1.0))); }).first, "VOR2:Expected3By3");
     EXPECT_EQ(errorOf([] { toPoints(Value::row({1, 2, 3})); }),
-              std::make_pair(std::string("VOR2:Expected2By2"), std::string("Expected either a [2 x n] or [n x 2] array")));
+              std::make_pair(std::string("VOR2:Expected2By2"),
+                             std::string("Expected either a [2 x n] or [n x 2] array")));
     EXPECT_EQ(errorOf([] { toPoints(Value::string("xy")); }).first, "VOR2:Expected2By2");
 
     // The matrix maps [x; y; 1]: a translation sits in the third column, and
