@@ -48,7 +48,8 @@ ClassInfo cosStroke()
 {
     ClassBuilder c("VOR2.Stroke", ClassKind::Value, "",
                    "How a node's outline is drawn: colour, width, caps, joins, dash style and scale function. "
-                   "A value: a copy changed leaves the original as it was.");
+                   "VOR2.Stroke() is a black hairline; VOR2.Stroke(style), or VOR2.Stroke(color, width[, style[, "
+                   "capStyle[, joinStyle[, scaleFunction]]]]) with the names of each property.");
     c.valueCodec<Stroke>(&encodeStroke, &decodeStroke);
     c.constructor("style", 1, [](Self &, Args const &a) {
         return fromValueOf(Stroke(toEnum<StrokeStyle>(a[0])), "VOR2.Stroke");
