@@ -36,9 +36,9 @@ ClassBuilder::ClassBuilder(std::string name, ClassKind kind, std::string supercl
     m_info.help = std::move(help);
 }
 
-ClassBuilder &ClassBuilder::constructor(std::string arguments, int arity, Call call)
+ClassBuilder &ClassBuilder::constructor(std::string arguments, int arity, Call call, int minArgs)
 {
-    m_info.constructors.push_back(Overload{std::move(arguments), arity, 0, std::move(call)});
+    m_info.constructors.push_back(Overload{std::move(arguments), arity, minArgs, std::move(call)});
     return *this;
 }
 

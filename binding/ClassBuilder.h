@@ -25,7 +25,8 @@ public:
 
     ClassBuilder(std::string name, ClassKind kind, std::string superclass, std::string help);
 
-    ClassBuilder &constructor(std::string arguments, int arity, Call call);
+    // arity -1: minArgs or more, as for overload().
+    ClassBuilder &constructor(std::string arguments, int arity, Call call, int minArgs = 0);
     ClassBuilder &property(std::string name, std::string typeWord, std::string help, Getter get, Setter set = {});
     // Starts a method; overload() adds its argument lists.
     ClassBuilder &method(std::string name, std::string help, std::string libraryName = {});

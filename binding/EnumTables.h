@@ -3,8 +3,11 @@
 // specialisation each, declared here and listed in EnumTables.cpp, so that
 // every class that converts one sees the same table.
 
+#include "Fill"
 #include "Stroke"
 #include "binding/EnumNames.h"
+
+#include "GLOX/Gradient.h"
 
 namespace VOR2::script {
 
@@ -14,5 +17,23 @@ template <>
 std::vector<std::pair<StrokeCapStyle, char const *>> EnumNames<StrokeCapStyle>::entries();
 template <>
 std::vector<std::pair<StrokeJoinStyle, char const *>> EnumNames<StrokeJoinStyle>::entries();
+template <>
+std::vector<std::pair<FillStyle, char const *>> EnumNames<FillStyle>::entries();
+template <>
+std::vector<std::pair<GLOX::Gradient::Type, char const *>> EnumNames<GLOX::Gradient::Type>::entries();
+template <>
+std::vector<std::pair<GLOX::Gradient::Spread, char const *>> EnumNames<GLOX::Gradient::Spread>::entries();
+template <>
+std::vector<std::pair<GLOX::Gradient::CoordinateMode, char const *>>
+EnumNames<GLOX::Gradient::CoordinateMode>::entries();
+
+// A font's weight and style as the script names them; the font itself keeps
+// them as its bold and italic flags.
+enum class FontWeight { Normal, Bold };
+enum class FontStyle { Normal, Italic };
+template <>
+std::vector<std::pair<FontWeight, char const *>> EnumNames<FontWeight>::entries();
+template <>
+std::vector<std::pair<FontStyle, char const *>> EnumNames<FontStyle>::entries();
 
 } // namespace VOR2::script

@@ -46,16 +46,18 @@ std::string const &stringArg(std::vector<Value> const &args, std::size_t i, char
     return args[i].text();
 }
 
-// Runs `use` on the receiver that `target` names, and gives back the new
-// state for a value object (else the empty Value).
+// Runs `use` on the receiver that `target` names. For a value object `use`
+// answers whether it changed the value; only then is the new state encoded
+// and given back (else the empty Value). Encoding a state announces the
+// nodes it holds, so a state nobody receives must not be made.
 template <class F>
-Value withTarget(ClassInfo const &, Value const &target, F &&use)
+Value withTarget(Value const &target, F &&use)
 {
     if (target.type() == Value::Type::ValueObject) {
         ClassInfo const &actual = classInfo(target.className());
         std::any value = actual.codec.decode(target.state());
         Self self(&value);
-        use(self);
+        if (!use(self)) return Value();
         return actual.codec.encode(value);
     }
     if (target.type() != Value::Type::Handle || target.id() == 0)
@@ -82,7 +84,10 @@ Value opGet(std::vector<Value> const &args)
     PropertyInfo const *p = findProperty(cls, name);
     if (!p || args.size() != 3) raise("VOR2:UnknownMember", cls + " has no property " + name);
     Value result;
-    withTarget(classInfo(cls), args[1], [&](Self &self) { result = p->get(self); });
+    withTarget(args[1], [&](Self &self) {
+        result = p->get(self);
+        return false;
+    });
     return result;
 }
 
@@ -93,7 +98,10 @@ Value opSet(std::vector<Value> const &args)
     PropertyInfo const *p = findProperty(cls, name);
     if (!p || args.size() != 4) raise("VOR2:UnknownMember", cls + " has no property " + name);
     if (p->readOnly()) raise("VOR2:ReadOnly", "The property " + name + " of " + cls + " is read-only");
-    return withTarget(classInfo(cls), args[1], [&](Self &self) { p->set(self, args[3]); });
+    return withTarget(args[1], [&](Self &self) {
+        p->set(self, args[3]);
+        return true;
+    });
 }
 
 Value opCall(std::vector<Value> const &args)
@@ -104,7 +112,10 @@ Value opCall(std::vector<Value> const &args)
     if (!m || m->isStatic) raise("VOR2:UnknownMember", cls + " has no method " + name);
     Args rest(args.begin() + 3, args.end());
     Value result;
-    Value state = withTarget(classInfo(cls), args[1], [&](Self &self) { result = choose(name, m->overloads, self, rest); });
+    Value state = withTarget(args[1], [&](Self &self) {
+        result = choose(name, m->overloads, self, rest);
+        return result.type() == Value::Type::Empty;
+    });
     std::vector<Value> out;
     if (result.type() != Value::Type::Empty) out.push_back(result);
     else if (state.type() == Value::Type::Struct) out = {Value(), state};
