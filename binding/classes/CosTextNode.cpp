@@ -84,7 +84,8 @@ ClassInfo cosTextNode()
 {
     ClassBuilder c("VOR2.TextNode", ClassKind::CopiedHandle, "VOR2.Node",
                    "Text, aligned around the node's position; an editable text is edited in place, and its Text "
-                   "changes when the editing ends. VOR2.TextNode(text) or VOR2.TextNode(text, [x y]).");
+                   "changes when the editing ends. VOR2.TextNode(), VOR2.TextNode(text) or VOR2.TextNode(text, [x y]).");
+    c.constructor("", 0, [](Self &, Args const &) { return fromNode(TextNode(std::string())); });
     c.constructor("text", 1, [](Self &, Args const &a) {
         std::string text = toString(a[0]);
         return fromNode(TextNode(text));

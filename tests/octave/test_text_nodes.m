@@ -1,4 +1,6 @@
 % Text nodes: alignment and auto-size by name, and the int32 width.
+blank = VOR2.TextNode();
+assert(blank.Text, '');
 t = VOR2.TextNode('Hello', [10 20]);
 assert(t.Text, 'Hello');
 assert(t.Position, [10 20]);
