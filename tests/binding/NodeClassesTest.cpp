@@ -4,6 +4,8 @@
 #include "Image"
 #include "LineEndDecoration"
 #include "OpenCurvedPathNode"
+#include "ResizeBehavior"
+#include "Scene"
 #include "binding/BindingRegistry.h"
 #include "binding/Gateway.h"
 #include "binding/ImageConvert.h"
@@ -128,4 +130,32 @@ TEST_F(NodeClasses, AnEditOfAnOpenCurveFromTheScriptPlacesItsDecorations)
     EXPECT_EQ(placedAt(), (std::vector<double>{10, 0}));
     call(curve, "append", {Value::row({30, 5})});
     EXPECT_EQ(placedAt(), (std::vector<double>{30, 5}));
+}
+
+TEST_F(NodeClasses, ABehaviourIsFetchedAsItsOwnClassAndClearedByTheEmptyArray)
+{
+    GLOX::Holder<VOR2::Scene> scene = VOR2::Scene::createScene();
+    Value rect = make("VOR2.RectNode", {Value::row({0, 0, 10, 10})});
+    VOR2::Node node = BindingRegistry::instance().find(rect.id()).node;
+    scene->addNode(node);
+    GLOX::Holder<VOR2::ResizeBehavior> behavior =
+        VOR2::ResizeBehavior::create(node, VOR2::HorizontalAlignment::Right, VOR2::VerticalAlignment::Bottom);
+    ASSERT_TRUE(behavior);
+    Value handed = BindingRegistry::instance().announceReferenced(behavior.get(), "VOR2.Behavior");
+
+    gateway("set", {str("VOR2.Node"), rect, str("Behavior"), handed});
+    EXPECT_EQ(node.getBehavior(), behavior.get());
+    Value fetched = get(rect, "Behavior");
+    EXPECT_EQ(fetched.id(), handed.id());
+    EXPECT_EQ(fetched.className(), "VOR2.Behavior");
+    gateway("release", {Value::scalar(double(handed.id()))});
+    gateway("release", {Value::scalar(double(fetched.id()))});
+    // A new entry takes the class of the behaviour's own kind.
+    EXPECT_EQ(get(rect, "Behavior").className(), "VOR2.ResizeBehavior");
+
+    gateway("set", {str("VOR2.Node"), rect, str("Behavior"), Value()});
+    EXPECT_EQ(node.getBehavior(), nullptr);
+    EXPECT_EQ(get(rect, "Behavior").numel(), 0u);
+    // A node is not a behaviour, and the node keeps none.
+    EXPECT_THROW(gateway("set", {str("VOR2.Node"), rect, str("Behavior"), rect}), ScriptError);
 }

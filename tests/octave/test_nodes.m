@@ -46,6 +46,19 @@ assert(im.Size, [10.5 3]);
 im.setSizeToImageNaturalSize();
 assert(im.Size, [0 0]);
 
+% An image file sets the natural size, and the shown size with it.
+file = [tempname() '.png'];
+imwrite(uint8(zeros(8, 16, 3)), file);
+cleanup = onCleanup(@() delete(file));
+fromFile = VOR2.ImageNode(file);
+assert(~fromFile.IsNullImage);
+assert(fromFile.ImageNaturalSize, [16 8]);
+assert(fromFile.Size, [16 8]);
+fromFile.Size = [4 2];
+assert(fromFile.BoundingRect(3:4) >= [4 2] & fromFile.BoundingRect(3:4) < [8 4]);
+fromFile.Source = [file '.missing'];
+assert(fromFile.IsNullImage);
+
 cu = VOR2.CustomNode();
 cu.Visible = false;
 assert(~cu.Visible);
