@@ -1,6 +1,9 @@
 #include "binding/BindingRegistry.h"
 
+#include "ClosedLinearPathNode"
 #include "binding/ScriptError.h"
+
+#include <cstring>
 
 namespace VOR2::script {
 
@@ -17,7 +20,7 @@ Binding *BindingRegistry::findByAddress(void const *address)
     Binding &b = m_byId.at(it->second);
     // A node that died since keeps its entry for the script objects that
     // remain, but a new node at the same address is another object.
-    if (!b.node.isValid() && !b.referenced && !b.owned) {
+    if (!b.isLive()) {
         m_byAddress.erase(it);
         b.address = nullptr;
         return nullptr;
@@ -36,13 +39,22 @@ Binding &BindingRegistry::add(void const *address, std::string const &className)
     return b;
 }
 
+std::string BindingRegistry::scriptClassOf(Node const &node)
+{
+    if (!node.isValid()) return "VOR2.Node";
+    char const *type = node.getFullyQualifiedTcosTypeName();
+    if (std::strcmp(type, ClosedLinearPathNode::staticGetFullyQualifiedTcosTypeName()) == 0)
+        return "VOR2.ClosedLinearPathNodes";
+    return type;
+}
+
 Value BindingRegistry::announceNode(Node const &node)
 {
     if (!node.isValid()) return Value::handle("VOR2.Node", 0);
     NodeImpl *impl = node.getImpl();
     Binding *b = findByAddress(impl);
     if (!b) {
-        b = &add(impl, node.getFullyQualifiedTcosTypeName());
+        b = &add(impl, scriptClassOf(node));
         b->node = node;
     }
     ++b->scriptObjects;
@@ -99,6 +111,7 @@ void BindingRegistry::retract(void const *address)
     b.address = nullptr;
     b.owned = nullptr;
     b.referenced.reset();
+    b.copied.reset();
     b.node = Node();
     m_byAddress.erase(it);
 }

@@ -14,6 +14,9 @@
 //   and its kinds, Behavior, ...)
 //   host-owned objects (Viewer)       only a pointer: the library owns it and
 //                                     retracts it when it goes first
+//   copied values (Shape, Cursor)     the entry owns its own copy, shared by
+//                                     the script objects of that entry: every
+//                                     fetch from the library makes a new one
 //
 // The entry counts its live script objects: announce adds one (the gateway
 // makes a script object for every handle Value it hands out), release takes
@@ -30,7 +33,9 @@
 #include "GLOX/Holder.h"
 #include "GLOX/ReferencedTemplate.h"
 
+#include <any>
 #include <cstdint>
+#include <memory>
 #include <functional>
 #include <string>
 #include <unordered_map>
@@ -46,7 +51,10 @@ struct Binding {
     Node node;
     GLOX::Holder<Referenced> referenced;
     void *owned = nullptr;
+    // A std::shared_ptr<T> for a copied value; empty otherwise.
+    std::any copied;
     int scriptObjects = 0;
+    bool isLive() const { return node.isValid() || referenced || owned || copied.has_value(); }
 };
 
 class BindingRegistry {
@@ -56,6 +64,22 @@ public:
     // A handle Value for `node`, of the script class of its kind; the empty
     // array of "VOR2.Node" for an empty handle.
     Value announceNode(Node const &node);
+    // The script class of a node's kind: its type name, except that the
+    // closed linear path is published as "VOR2.ClosedLinearPathNodes", with
+    // a final s (deliberate: the published name and the library's type name
+    // differ); "VOR2.Node" for an empty handle.
+    static std::string scriptClassOf(Node const &node);
+    // A handle Value on a new entry that owns `value`: a copied handle, one
+    // entry per call.
+    template <class T>
+    Value announceCopied(T value, std::string const &className)
+    {
+        auto owned = std::make_shared<T>(std::move(value));
+        Binding &b = add(owned.get(), className);
+        b.copied = owned;
+        ++b.scriptObjects;
+        return Value::handle(b.className, b.id);
+    }
     // A handle Value for a counted object; `className` is its script class.
     // A null pointer gives the empty array of that class.
     Value announceReferenced(Referenced *object, std::string const &className);

@@ -21,6 +21,60 @@ std::vector<std::pair<StrokeJoinStyle, char const *>> EnumNames<StrokeJoinStyle>
 {
     return {{MiterJoin, "MiterJoin"}, {BevelJoin, "BevelJoin"}, {RoundJoin, "RoundJoin"}, {SvgMiterJoin, "SvgMiterJoin"}};
 }
+template <>
+std::vector<std::pair<CacheType, char const *>> EnumNames<CacheType>::entries()
+{
+    return {{CacheType::None, "None"}, {CacheType::Self, "Self"}, {CacheType::ChildrenTree, "ChildrenTree"}};
+}
+
+template <>
+std::vector<std::pair<LayoutConstraints, char const *>> EnumNames<LayoutConstraints>::entries()
+{
+    return {{LayoutConstraints::None, "None"},          {LayoutConstraints::Left, "Left"},
+            {LayoutConstraints::Top, "Top"},            {LayoutConstraints::Right, "Right"},
+            {LayoutConstraints::Bottom, "Bottom"},      {LayoutConstraints::FlexibleWidth, "FlexibleWidth"},
+            {LayoutConstraints::FlexibleHeight, "FlexibleHeight"}};
+}
+
+template <>
+std::vector<std::pair<AutoSizeMode, char const *>> EnumNames<AutoSizeMode>::entries()
+{
+    return {{AutoSizeFixed, autoSizeModeName(AutoSizeFixed)}, {AutoSizeExpanding, autoSizeModeName(AutoSizeExpanding)}};
+}
+
+template <>
+std::vector<std::pair<GLOX::TextHAlign::Value, char const *>> EnumNames<GLOX::TextHAlign::Value>::entries()
+{
+    using H = GLOX::TextHAlign;
+    return {{H::LEFT_TEXT, H(H::LEFT_TEXT).name()},
+            {H::H_CENTER_TEXT, H(H::H_CENTER_TEXT).name()},
+            {H::RIGHT_TEXT, H(H::RIGHT_TEXT).name()}};
+}
+
+template <>
+std::vector<std::pair<GLOX::TextVAlign::Value, char const *>> EnumNames<GLOX::TextVAlign::Value>::entries()
+{
+    using V = GLOX::TextVAlign;
+    return {{V::BASELINE_TEXT, V(V::BASELINE_TEXT).name()}, {V::TOP_TEXT, V(V::TOP_TEXT).name()},
+            {V::V_CENTER_TEXT, V(V::V_CENTER_TEXT).name()}, {V::BOTTOM_TEXT, V(V::BOTTOM_TEXT).name()},
+            {V::BOTTOM_BASELINE_TEXT, V(V::BOTTOM_BASELINE_TEXT).name()}};
+}
+
+template <>
+std::vector<std::pair<Qt::CursorShape, char const *>> EnumNames<Qt::CursorShape>::entries()
+{
+    return {{Qt::ArrowCursor, "Arrow"},          {Qt::UpArrowCursor, "UpArrow"},
+            {Qt::CrossCursor, "Cross"},          {Qt::WaitCursor, "Wait"},
+            {Qt::IBeamCursor, "IBeam"},          {Qt::SizeVerCursor, "SizeVer"},
+            {Qt::SizeHorCursor, "SizeHor"},      {Qt::SizeBDiagCursor, "SizeBDiag"},
+            {Qt::SizeFDiagCursor, "SizeFDiag"},  {Qt::SizeAllCursor, "SizeAll"},
+            {Qt::BlankCursor, "Blank"},          {Qt::SplitVCursor, "SplitV"},
+            {Qt::SplitHCursor, "SplitH"},        {Qt::PointingHandCursor, "PointingHand"},
+            {Qt::ForbiddenCursor, "Forbidden"},  {Qt::WhatsThisCursor, "WhatsThis"},
+            {Qt::BusyCursor, "Busy"},            {Qt::OpenHandCursor, "OpenHand"},
+            {Qt::ClosedHandCursor, "ClosedHand"}, {Qt::DragCopyCursor, "DragCopy"},
+            {Qt::DragMoveCursor, "DragMove"},    {Qt::DragLinkCursor, "DragLink"}};
+}
 
 template <>
 std::vector<std::pair<FillStyle, char const *>> EnumNames<FillStyle>::entries()

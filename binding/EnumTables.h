@@ -4,7 +4,14 @@
 // every class that converts one sees the same table.
 
 #include "Fill"
+#include "AutoSizeMode"
+#include "CacheType"
+#include "LayoutConstraints"
 #include "Stroke"
+
+#include "GLOX/TextAlign.h"
+
+#include <Qt>
 #include "binding/EnumNames.h"
 
 #include "GLOX/Gradient.h"
@@ -35,5 +42,18 @@ template <>
 std::vector<std::pair<FontWeight, char const *>> EnumNames<FontWeight>::entries();
 template <>
 std::vector<std::pair<FontStyle, char const *>> EnumNames<FontStyle>::entries();
+std::vector<std::pair<CacheType, char const *>> EnumNames<CacheType>::entries();
+template <>
+std::vector<std::pair<LayoutConstraints, char const *>> EnumNames<LayoutConstraints>::entries();
+template <>
+std::vector<std::pair<AutoSizeMode, char const *>> EnumNames<AutoSizeMode>::entries();
+template <>
+std::vector<std::pair<GLOX::TextHAlign::Value, char const *>> EnumNames<GLOX::TextHAlign::Value>::entries();
+template <>
+std::vector<std::pair<GLOX::TextVAlign::Value, char const *>> EnumNames<GLOX::TextVAlign::Value>::entries();
+// The standard cursors, by Qt's names without the word Cursor ("Arrow",
+// "PointingHand", ...).
+template <>
+std::vector<std::pair<Qt::CursorShape, char const *>> EnumNames<Qt::CursorShape>::entries();
 
 } // namespace VOR2::script

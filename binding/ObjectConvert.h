@@ -35,4 +35,16 @@ T *toObject(Value const &v, char const *className)
     return t;
 }
 
+// A copy of the value a copied handle Value owns (a Shape, a Cursor).
+// Throws "VOR2:WrongType" naming `className` for anything else, the empty
+// array included.
+template <class T>
+T toCopied(Value const &v, char const *className)
+{
+    if (v.type() != Value::Type::Handle || v.id() == 0) wrongType(className, v);
+    auto const *owned = std::any_cast<std::shared_ptr<T>>(&BindingRegistry::instance().find(v.id()).copied);
+    if (!owned || !*owned) wrongType(className, v);
+    return **owned;
+}
+
 } // namespace VOR2::script

@@ -47,6 +47,17 @@ public:
         return t;
     }
 
+    // The value a copied handle entry owns (Shape, Cursor); changes through
+    // it are seen by every script object of the entry. Throws
+    // "VOR2:InvalidObject" when the entry holds no T.
+    template <class T>
+    T &copied() const
+    {
+        auto const *owned = std::any_cast<std::shared_ptr<T>>(&binding().copied);
+        if (!owned || !*owned) raise("VOR2:InvalidObject", "The object this value referred to no longer exists");
+        return **owned;
+    }
+
     // The decoded copy of a value kind.
     template <class T>
     T &value() const
