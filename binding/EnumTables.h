@@ -3,18 +3,17 @@
 // specialisation each, declared here and listed in EnumTables.cpp, so that
 // every class that converts one sees the same table.
 
-#include "Fill"
 #include "AutoSizeMode"
 #include "CacheType"
+#include "Fill"
 #include "LayoutConstraints"
 #include "Stroke"
-
-#include "GLOX/TextAlign.h"
-
-#include <Qt>
 #include "binding/EnumNames.h"
 
 #include "GLOX/Gradient.h"
+#include "GLOX/TextAlign.h"
+
+#include <Qt>
 
 namespace VOR2::script {
 
@@ -42,6 +41,7 @@ template <>
 std::vector<std::pair<FontWeight, char const *>> EnumNames<FontWeight>::entries();
 template <>
 std::vector<std::pair<FontStyle, char const *>> EnumNames<FontStyle>::entries();
+template <>
 std::vector<std::pair<CacheType, char const *>> EnumNames<CacheType>::entries();
 template <>
 std::vector<std::pair<LayoutConstraints, char const *>> EnumNames<LayoutConstraints>::entries();
