@@ -53,7 +53,7 @@ Value numeric(octave_value const &ov, Value::Type type)
     std::vector<double> n(a.data(), a.data() + a.numel());
     Value v = Value::matrix(a.rows(), a.columns(), std::move(n));
     if (type == Value::Type::Double || a.numel() != 1) return v;
-    if (type == Value::Type::Logical) return Value::logical(n.empty() ? false : a(0) != 0);
+    if (type == Value::Type::Logical) return Value::logical(a(0) != 0);
     if (type == Value::Type::Int32) return Value::int32(std::int32_t(a(0)));
     return Value::uint32(std::uint32_t(a(0)));
 }
