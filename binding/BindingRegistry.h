@@ -14,6 +14,11 @@
 //   and its kinds, Behavior, ...)
 //   host-owned objects (Viewer)       only a pointer: the library owns it and
 //                                     retracts it when it goes first
+//   wrappable objects (Viewer,        a pointer, as host-owned ones; the
+//   GLCanvas)                         object hears when its first script
+//                                     value appears and its last one goes
+//                                     (GLOX::Wrappable), and retracts itself
+//                                     through the hook the registry installs
 //
 // The entry counts its live script objects: announce adds one (the gateway
 // makes a script object for every handle Value it hands out), release takes
@@ -29,6 +34,7 @@
 
 #include "GLOX/Holder.h"
 #include "GLOX/ReferencedTemplate.h"
+#include "GLOX/Wrappable.h"
 
 #include <cstdint>
 #include <functional>
@@ -46,6 +52,8 @@ struct Binding {
     Node node;
     GLOX::Holder<Referenced> referenced;
     void *owned = nullptr;
+    // Set with owned for a Wrappable; owned is then its address.
+    GLOX::Wrappable *wrappable = nullptr;
     int scriptObjects = 0;
 };
 
@@ -61,6 +69,11 @@ public:
     Value announceReferenced(Referenced *object, std::string const &className);
     // A handle Value for an object the library owns (no reference taken).
     Value announceOwned(void *object, std::string const &className);
+    // The same for a Wrappable: it hears scriptAttached when its entry is
+    // made and scriptDetached when the entry goes, and a Wrappable that dies
+    // first retracts itself. Its script class's methods reach it through
+    // Self::object<T>(), by dynamic_cast.
+    Value announceOwned(GLOX::Wrappable *object, std::string const &className);
 
     // The entry of a live id, or throws "VOR2:InvalidObject" for an id that
     // has no entry (a script value outliving the registry's reset).
