@@ -5,10 +5,11 @@
 // starts the two threads (HostRuntime: the widget bridge "qt" makes the GUI
 // thread or joins an existing QApplication, and the event dispatcher is
 // installed on this thread, last of all).
-// terminate_vor and TVTerminate_vor: once, whichever is called first: stop
-// the threads. The package stays published.
+// terminate_vor and TVTerminate_vor: once, whichever is called first: close
+// the open viewers, then stop the threads. The package stays published.
 
 #include "HostRuntime"
+#include "Viewer"
 #include "binding/EntryPoints.h"
 #include "binding/ErrorCatalogue.h"
 #include "binding/HostLoop.h"
@@ -56,6 +57,7 @@ void terminate_vor()
 {
     if (g_terminated) return;
     g_terminated = true;
+    VOR2::Viewer::closeOpenViewers();
     VOR2::HostRuntime::stop();
 }
 
