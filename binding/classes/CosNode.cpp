@@ -47,6 +47,13 @@ ClassInfo cosNode()
             s.node().setPosition(p);
         });
     c.property(
+        "Selectable", "logical scalar", "Whether a click or a marquee may select the node (false for a new node).",
+        [](Self &s) { return Value::logical(s.node().isSelectable()); },
+        [](Self &s, Value const &v) {
+            bool b = toBool(v);
+            s.node().setSelectable(b);
+        });
+    c.property(
         "Selected", "logical scalar", "Whether the node is selected.",
         [](Self &s) { return Value::logical(s.node().isSelected()); },
         [](Self &s, Value const &v) {
