@@ -21,6 +21,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <string>
+#include <poll.h>
 #include <sys/stat.h>
 #include <unistd.h>
 #include <stdexcept>
@@ -101,6 +102,20 @@ void runHostLoopFor(double seconds)
     if (!HostRuntime::isRunning()) return;
     auto ms = std::chrono::milliseconds(seconds > 0 ? static_cast<long long>(seconds * 1000.0) : 0);
     HostRuntime::loop().runFor(ms);
+}
+
+void runHostLoopWhileNoInput(int inputFd, double maxSeconds)
+{
+    if (!HostRuntime::isRunning()) return;
+    auto hasInput = [inputFd] {
+        pollfd p{inputFd, POLLIN, 0};
+        return poll(&p, 1, 0) != 0;
+    };
+    auto const end = std::chrono::steady_clock::now() +
+                     std::chrono::milliseconds(maxSeconds > 0 ? static_cast<long long>(maxSeconds * 1000.0) : 0);
+    do {
+        HostRuntime::loop().runUntil(hasInput, std::chrono::milliseconds(10));
+    } while (!hasInput() && std::chrono::steady_clock::now() < end);
 }
 
 void runHostLoopUntilIdle()

@@ -6,7 +6,13 @@
 // Operations of its own, besides those of binding/Gateway:
 //   __vor2__('pump')            runs the host loop until it is idle
 //   __vor2__('pump', seconds)   runs it for that long (input, rendering, tools)
-//   __vor2__('hook')            one turn of the loop, for the input event hook
+//   __vor2__('hook')            for the input event hook: runs the loop until
+//                               the terminal has input, for at most 250 ms
+//   __vor2__('hookstats')       how live the loop has been at the prompt:
+//                               struct calls, inside (seconds in the hook),
+//                               outside (seconds between hooks) and
+//                               longestGap (seconds), since the last reset;
+//   __vor2__('hookstats', 0)    resets them
 // The first call starts the library (initialize_vor: the host thread is the
 // interpreter's, the GUI thread is made for octave-cli or joins the GUI's
 // QApplication) and installs the input event hook, so the windows stay live
@@ -24,6 +30,9 @@
 #include "binding/HostLoop.h"
 #include "binding/ScriptError.h"
 
+#include <algorithm>
+#include <chrono>
+#include <dlfcn.h>
 #include <string>
 #include <vector>
 
@@ -121,6 +130,55 @@ octave_value fromValue(Value const &v)
     return Matrix();
 }
 
+// The hook's account of itself: how much of the prompt's waiting the host
+// loop ran for.
+struct HookStats {
+    using Clock = std::chrono::steady_clock;
+    double calls = 0, inside = 0, outside = 0, longestGap = 0;
+    Clock::time_point lastEnd{};
+
+    void run()
+    {
+        Clock::time_point const begin = Clock::now();
+        if (lastEnd != Clock::time_point{}) {
+            double gap = std::chrono::duration<double>(begin - lastEnd).count();
+            outside += gap;
+            longestGap = std::max(longestGap, gap);
+        }
+        // Until a key is typed (checked about every 10 ms), but give the
+        // prompt back now and then: Octave runs its other hooks and its
+        // interrupt checks between calls.
+        VOR2::script::runHostLoopWhileNoInput(0, 0.25);
+        lastEnd = Clock::now();
+        inside += std::chrono::duration<double>(lastEnd - begin).count();
+        ++calls;
+    }
+    octave_value toStruct() const
+    {
+        octave_scalar_map m;
+        m.assign("calls", calls);
+        m.assign("inside", inside);
+        m.assign("outside", outside);
+        m.assign("longestGap", longestGap);
+        return m;
+    }
+};
+
+HookStats &hookStats()
+{
+    static HookStats stats;
+    return stats;
+}
+
+// Readline calls the input event hook when no key has come for its keyboard
+// timeout (100 ms by default), and the loop does not run in between: a
+// shorter timeout keeps the windows live while the prompt waits.
+void shortenReadlineTimeout()
+{
+    using SetTimeout = int (*)(int);
+    if (auto set = reinterpret_cast<SetTimeout>(dlsym(RTLD_DEFAULT, "rl_set_keyboard_input_timeout"))) set(10000);
+}
+
 void start(octave::interpreter &interp)
 {
     static bool started = false;
@@ -132,6 +190,7 @@ void start(octave::interpreter &interp)
     hook(0) = octave_value("__vor2__");
     hook(1) = octave_value("hook");
     octave::feval("add_input_event_hook", hook, 0);
+    shortenReadlineTimeout();
 }
 
 } // namespace
@@ -147,8 +206,12 @@ DEFMETHOD_DLD(__vor2__, interp, args, nargout,
     try {
         start(interp);
         if (op == "hook") {
-            VOR2::script::runHostLoopFor(0.04);
+            hookStats().run();
             return octave_value_list();
+        }
+        if (op == "hookstats") {
+            if (args.length() > 1) hookStats() = HookStats();
+            return octave_value_list(hookStats().toStruct());
         }
         if (op == "pump") {
             if (args.length() > 1) VOR2::script::runHostLoopFor(args(1).double_value());
