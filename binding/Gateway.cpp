@@ -25,10 +25,8 @@ std::string signatureList(std::string const &name, std::vector<Overload> const &
 Value choose(std::string const &name, std::vector<Overload> const &overloads, Self &self, Args const &args)
 {
     std::optional<ScriptError> first;
-    bool anyArity = false;
     for (Overload const &o : overloads) {
         if (!o.accepts(args.size())) continue;
-        anyArity = true;
         try {
             return o.call(self, args);
         } catch (ScriptError const &e) {
@@ -37,7 +35,6 @@ Value choose(std::string const &name, std::vector<Overload> const &overloads, Se
     }
     if (first) throw *first;
     if (overloads.empty()) raise("VOR2:NotConstructible", name + " cannot be made from a script");
-    (void)anyArity;
     raise("VOR2:WrongArgumentCount", name + " takes " + signatureList(name, overloads) + ", not " +
                                          std::to_string(args.size()) + " argument(s)");
 }
