@@ -15,6 +15,8 @@ BindingRegistry &BindingRegistry::instance()
     return registry;
 }
 
+BindingRegistry::~BindingRegistry() { GLOX::Wrappable::setRetractHook(nullptr); }
+
 Binding *BindingRegistry::findByAddress(void const *address)
 {
     auto it = m_byAddress.find(address);

@@ -60,6 +60,8 @@ struct Binding {
 class BindingRegistry {
 public:
     static BindingRegistry &instance();
+    // Removes the retract hook: a Wrappable that dies later tells nobody.
+    ~BindingRegistry();
 
     // A handle Value for `node`, of the script class of its kind; the empty
     // array of "VOR2.Node" for an empty handle.
