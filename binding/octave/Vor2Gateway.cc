@@ -13,11 +13,16 @@
 //                               outside (seconds between hooks) and
 //                               longestGap (seconds), since the last reset;
 //   __vor2__('hookstats', 0)    resets them
+//   __vor2__                    (no arguments; Octave's atexit calls it so)
+//                               ends the library: closes the open viewers
+//                               and stops the threads (terminate_vor)
 // The first call starts the library (initialize_vor: the host thread is the
 // interpreter's, the GUI thread is made for octave-cli or joins the GUI's
 // QApplication) and installs the input event hook, so the windows stay live
-// while the prompt waits. The gateway then stays loaded (mlock): its objects
-// and threads must not lose their code.
+// while the prompt waits, and registers the end of the library with Octave's
+// atexit, so that the GUI thread and its windows end while the process still
+// runs instead of in its static destructors. The gateway then stays loaded
+// (mlock): its objects and threads must not lose their code.
 
 #include <octave/oct.h>
 #include <octave/cdef-object.h>
@@ -26,6 +31,7 @@
 #include <octave/parse.h>
 
 #include "Error"
+#include "binding/EntryPoints.h"
 #include "binding/Gateway.h"
 #include "binding/HostLoop.h"
 #include "binding/ScriptError.h"
@@ -191,6 +197,7 @@ void start(octave::interpreter &interp)
     hook(1) = octave_value("hook");
     octave::feval("add_input_event_hook", hook, 0);
     shortenReadlineTimeout();
+    interp.add_atexit_fcn("__vor2__");
 }
 
 } // namespace
@@ -200,7 +207,11 @@ DEFMETHOD_DLD(__vor2__, interp, args, nargout,
               "The VOR2 package's gateway; called by the classes of +VOR2.\n@end deftypefn")
 {
     (void)nargout;
-    if (args.length() < 1 || !args(0).is_string()) error_with_id("VOR2:UnknownOperation", "__vor2__: no operation");
+    if (args.length() == 0) {
+        terminate_vor();
+        return octave_value_list();
+    }
+    if (!args(0).is_string()) error_with_id("VOR2:UnknownOperation", "__vor2__: no operation");
     std::string op = args(0).string_value();
     std::string errorId, errorText;
     try {

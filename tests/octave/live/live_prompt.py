@@ -130,9 +130,14 @@ def main():
         ok = selected == 1 and scale > 1.0
         if not ok:
             print("FAILED: expected the node selected and the scale above 1")
-        return 0 if ok else 1
+        status = s.close()
+        s = None
+        if status != 0:
+            print("FAILED: octave-cli ended with status %r" % status)
+        return 0 if ok and status == 0 else 1
     finally:
-        s.close()
+        if s:
+            s.close()
 
 
 if __name__ == "__main__":
