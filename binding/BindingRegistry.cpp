@@ -10,8 +10,15 @@ namespace VOR2::script {
 BindingRegistry &BindingRegistry::instance()
 {
     static BindingRegistry registry;
+    static bool const hooked = [] {
+        GLOX::Wrappable::setRetractHook([](GLOX::Wrappable const *w) { instance().retract(w); });
+        return true;
+    }();
+    (void)hooked;
     return registry;
 }
+
+BindingRegistry::~BindingRegistry() { GLOX::Wrappable::setRetractHook(nullptr); }
 
 Binding *BindingRegistry::findByAddress(void const *address)
 {
@@ -85,6 +92,20 @@ Value BindingRegistry::announceOwned(void *object, std::string const &className)
     return Value::handle(b->className, b->id);
 }
 
+Value BindingRegistry::announceOwned(GLOX::Wrappable *object, std::string const &className)
+{
+    if (!object) return Value::handle(className, 0);
+    Binding *b = findByAddress(object);
+    if (!b) {
+        b = &add(object, className);
+        b->owned = object;
+        b->wrappable = object;
+        object->scriptAttached();
+    }
+    ++b->scriptObjects;
+    return Value::handle(b->className, b->id);
+}
+
 Binding &BindingRegistry::find(std::uint64_t id)
 {
     auto it = m_byId.find(id);
@@ -100,7 +121,9 @@ void BindingRegistry::release(std::uint64_t id)
     if (dying.address) m_byAddress.erase(dying.address);
     m_byId.erase(it);
     // The references go last, after the maps are consistent: dropping a node
-    // or a scene may run code that announces other objects.
+    // or a scene may run code that announces other objects, and a Wrappable
+    // told it has no script value left may end itself.
+    if (dying.wrappable) dying.wrappable->scriptDetached();
 }
 
 void BindingRegistry::retract(void const *address)
@@ -110,6 +133,7 @@ void BindingRegistry::retract(void const *address)
     Binding &b = m_byId.at(it->second);
     b.address = nullptr;
     b.owned = nullptr;
+    b.wrappable = nullptr;
     b.referenced.reset();
     b.copied.reset();
     b.node = Node();

@@ -17,6 +17,11 @@
 //   copied values (Shape, Cursor)     the entry owns its own copy, shared by
 //                                     the script objects of that entry: every
 //                                     fetch from the library makes a new one
+//   wrappable objects (Viewer,        a pointer, as host-owned ones; the
+//   GLCanvas)                         object hears when its first script
+//                                     value appears and its last one goes
+//                                     (GLOX::Wrappable), and retracts itself
+//                                     through the hook the registry installs
 //
 // The entry counts its live script objects: announce adds one (the gateway
 // makes a script object for every handle Value it hands out), release takes
@@ -32,6 +37,7 @@
 
 #include "GLOX/Holder.h"
 #include "GLOX/ReferencedTemplate.h"
+#include "GLOX/Wrappable.h"
 
 #include <any>
 #include <cstdint>
@@ -53,6 +59,8 @@ struct Binding {
     void *owned = nullptr;
     // A std::shared_ptr<T> for a copied value; empty otherwise.
     std::any copied;
+    // Set with owned for a Wrappable; owned is then its address.
+    GLOX::Wrappable *wrappable = nullptr;
     int scriptObjects = 0;
     bool isLive() const { return node.isValid() || referenced || owned || copied.has_value(); }
 };
@@ -60,6 +68,8 @@ struct Binding {
 class BindingRegistry {
 public:
     static BindingRegistry &instance();
+    // Removes the retract hook: a Wrappable that dies later tells nobody.
+    ~BindingRegistry();
 
     // A handle Value for `node`, of the script class of its kind; the empty
     // array of "VOR2.Node" for an empty handle.
@@ -85,6 +95,11 @@ public:
     Value announceReferenced(Referenced *object, std::string const &className);
     // A handle Value for an object the library owns (no reference taken).
     Value announceOwned(void *object, std::string const &className);
+    // The same for a Wrappable: it hears scriptAttached when its entry is
+    // made and scriptDetached when the entry goes, and a Wrappable that dies
+    // first retracts itself. Its script class's methods reach it through
+    // Self::object<T>(), by dynamic_cast.
+    Value announceOwned(GLOX::Wrappable *object, std::string const &className);
 
     // The entry of a live id, or throws "VOR2:InvalidObject" for an id that
     // has no entry (a script value outliving the registry's reset).

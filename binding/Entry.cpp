@@ -5,10 +5,11 @@
 // starts the two threads (HostRuntime: the widget bridge "qt" makes the GUI
 // thread or joins an existing QApplication, and the event dispatcher is
 // installed on this thread, last of all).
-// terminate_vor and TVTerminate_vor: once, whichever is called first: stop
-// the threads. The package stays published.
+// terminate_vor and TVTerminate_vor: once, whichever is called first: close
+// the open viewers, then stop the threads. The package stays published.
 
 #include "HostRuntime"
+#include "Viewer"
 #include "binding/EntryPoints.h"
 #include "binding/ErrorCatalogue.h"
 #include "binding/HostLoop.h"
@@ -20,6 +21,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <string>
+#include <poll.h>
 #include <sys/stat.h>
 #include <unistd.h>
 #include <stdexcept>
@@ -56,6 +58,7 @@ void terminate_vor()
 {
     if (g_terminated) return;
     g_terminated = true;
+    VOR2::Viewer::closeOpenViewers();
     VOR2::HostRuntime::stop();
 }
 
@@ -99,6 +102,20 @@ void runHostLoopFor(double seconds)
     if (!HostRuntime::isRunning()) return;
     auto ms = std::chrono::milliseconds(seconds > 0 ? static_cast<long long>(seconds * 1000.0) : 0);
     HostRuntime::loop().runFor(ms);
+}
+
+void runHostLoopWhileNoInput(int inputFd, double maxSeconds)
+{
+    if (!HostRuntime::isRunning()) return;
+    auto hasInput = [inputFd] {
+        pollfd p{inputFd, POLLIN, 0};
+        return poll(&p, 1, 0) != 0;
+    };
+    auto const end = std::chrono::steady_clock::now() +
+                     std::chrono::milliseconds(maxSeconds > 0 ? static_cast<long long>(maxSeconds * 1000.0) : 0);
+    do {
+        HostRuntime::loop().runUntil(hasInput, std::chrono::milliseconds(10));
+    } while (!hasInput() && std::chrono::steady_clock::now() < end);
 }
 
 void runHostLoopUntilIdle()

@@ -15,5 +15,10 @@ void startHostLoop();
 // it has no work left.
 void runHostLoopFor(double seconds);
 void runHostLoopUntilIdle();
+// For the host's input event hook: runs the loop while the terminal has no
+// input for the host, up to `maxSeconds`, looking at `inputFd` about every
+// 10 ms, so that a key typed at the prompt waits at most that long. Returns
+// at once when the descriptor is readable (or closed).
+void runHostLoopWhileNoInput(int inputFd, double maxSeconds);
 
 } // namespace VOR2::script

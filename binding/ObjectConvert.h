@@ -30,6 +30,7 @@ T *toObject(Value const &v, char const *className)
     Binding &b = BindingRegistry::instance().find(v.id());
     T *t = nullptr;
     if (b.referenced) t = dynamic_cast<T *>(b.referenced.get());
+    else if (b.wrappable) t = dynamic_cast<T *>(b.wrappable);
     else if (b.owned) t = static_cast<T *>(b.owned);
     if (!t) wrongType(className, v);
     return t;

@@ -42,6 +42,7 @@ public:
         Binding &b = binding();
         T *t = nullptr;
         if (b.referenced) t = dynamic_cast<T *>(b.referenced.get());
+        else if (b.wrappable) t = dynamic_cast<T *>(b.wrappable);
         else if (b.owned) t = static_cast<T *>(b.owned);
         if (!t) raise("VOR2:InvalidObject", "The object this value referred to no longer exists");
         return t;

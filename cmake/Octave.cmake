@@ -26,3 +26,8 @@ add_custom_command(OUTPUT ${VOR2_OCTAVE_DIR}/+VOR2/.stamp
                    DEPENDS vor2_octave_classes vor2
                    COMMENT "Writing the +VOR2 class folder")
 add_custom_target(vor2_octave ALL DEPENDS ${VOR2_OCTAVE_DIR}/+VOR2/.stamp vor2_octave_gateway)
+
+# The C++ side of the Octave timing (bench/octave): not built by default.
+add_executable(vor2_build_10k EXCLUDE_FROM_ALL bench/octave/Build10k.cpp)
+target_link_libraries(vor2_build_10k PRIVATE vor2)
+target_compile_options(vor2_build_10k PRIVATE -Wall -Wextra)

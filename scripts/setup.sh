@@ -5,7 +5,7 @@ set -euo pipefail
 
 PACKAGES=(cmake ninja-build ccache g++ qtbase5-dev googletest libgtest-dev
           libbenchmark-dev libabsl-dev libboost-dev xvfb xauth poppler-utils
-          octave liboctave-dev)
+          octave liboctave-dev xdotool)
 
 missing=()
 for p in "${PACKAGES[@]}"; do

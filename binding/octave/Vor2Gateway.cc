@@ -6,12 +6,23 @@
 // Operations of its own, besides those of binding/Gateway:
 //   __vor2__('pump')            runs the host loop until it is idle
 //   __vor2__('pump', seconds)   runs it for that long (input, rendering, tools)
-//   __vor2__('hook')            one turn of the loop, for the input event hook
+//   __vor2__('hook')            for the input event hook: runs the loop until
+//                               the terminal has input, for at most 250 ms
+//   __vor2__('hookstats')       how live the loop has been at the prompt:
+//                               struct calls, inside (seconds in the hook),
+//                               outside (seconds between hooks) and
+//                               longestGap (seconds), since the last reset;
+//   __vor2__('hookstats', 0)    resets them
+//   __vor2__                    (no arguments; Octave's atexit calls it so)
+//                               ends the library: closes the open viewers
+//                               and stops the threads (terminate_vor)
 // The first call starts the library (initialize_vor: the host thread is the
 // interpreter's, the GUI thread is made for octave-cli or joins the GUI's
 // QApplication) and installs the input event hook, so the windows stay live
-// while the prompt waits. The gateway then stays loaded (mlock): its objects
-// and threads must not lose their code.
+// while the prompt waits, and registers the end of the library with Octave's
+// atexit, so that the GUI thread and its windows end while the process still
+// runs instead of in its static destructors. The gateway then stays loaded
+// (mlock): its objects and threads must not lose their code.
 
 #include <octave/oct.h>
 #include <octave/cdef-object.h>
@@ -20,10 +31,14 @@
 #include <octave/parse.h>
 
 #include "Error"
+#include "binding/EntryPoints.h"
 #include "binding/Gateway.h"
 #include "binding/HostLoop.h"
 #include "binding/ScriptError.h"
 
+#include <algorithm>
+#include <chrono>
+#include <dlfcn.h>
 #include <string>
 #include <vector>
 
@@ -126,6 +141,55 @@ octave_value fromValue(Value const &v)
     return Matrix();
 }
 
+// The hook's account of itself: how much of the prompt's waiting the host
+// loop ran for.
+struct HookStats {
+    using Clock = std::chrono::steady_clock;
+    double calls = 0, inside = 0, outside = 0, longestGap = 0;
+    Clock::time_point lastEnd{};
+
+    void run()
+    {
+        Clock::time_point const begin = Clock::now();
+        if (lastEnd != Clock::time_point{}) {
+            double gap = std::chrono::duration<double>(begin - lastEnd).count();
+            outside += gap;
+            longestGap = std::max(longestGap, gap);
+        }
+        // Until a key is typed (checked about every 10 ms), but give the
+        // prompt back now and then: Octave runs its other hooks and its
+        // interrupt checks between calls.
+        VOR2::script::runHostLoopWhileNoInput(0, 0.25);
+        lastEnd = Clock::now();
+        inside += std::chrono::duration<double>(lastEnd - begin).count();
+        ++calls;
+    }
+    octave_value toStruct() const
+    {
+        octave_scalar_map m;
+        m.assign("calls", calls);
+        m.assign("inside", inside);
+        m.assign("outside", outside);
+        m.assign("longestGap", longestGap);
+        return m;
+    }
+};
+
+HookStats &hookStats()
+{
+    static HookStats stats;
+    return stats;
+}
+
+// Readline calls the input event hook when no key has come for its keyboard
+// timeout (100 ms by default), and the loop does not run in between: a
+// shorter timeout keeps the windows live while the prompt waits.
+void shortenReadlineTimeout()
+{
+    using SetTimeout = int (*)(int);
+    if (auto set = reinterpret_cast<SetTimeout>(dlsym(RTLD_DEFAULT, "rl_set_keyboard_input_timeout"))) set(10000);
+}
+
 void start(octave::interpreter &interp)
 {
     static bool started = false;
@@ -137,6 +201,8 @@ void start(octave::interpreter &interp)
     hook(0) = octave_value("__vor2__");
     hook(1) = octave_value("hook");
     octave::feval("add_input_event_hook", hook, 0);
+    shortenReadlineTimeout();
+    interp.add_atexit_fcn("__vor2__");
 }
 
 } // namespace
@@ -146,14 +212,22 @@ DEFMETHOD_DLD(__vor2__, interp, args, nargout,
               "The VOR2 package's gateway; called by the classes of +VOR2.\n@end deftypefn")
 {
     (void)nargout;
-    if (args.length() < 1 || !args(0).is_string()) error_with_id("VOR2:UnknownOperation", "__vor2__: no operation");
+    if (args.length() == 0) {
+        terminate_vor();
+        return octave_value_list();
+    }
+    if (!args(0).is_string()) error_with_id("VOR2:UnknownOperation", "__vor2__: no operation");
     std::string op = args(0).string_value();
     std::string errorId, errorText;
     try {
         start(interp);
         if (op == "hook") {
-            VOR2::script::runHostLoopFor(0.04);
+            hookStats().run();
             return octave_value_list();
+        }
+        if (op == "hookstats") {
+            if (args.length() > 1) hookStats() = HookStats();
+            return octave_value_list(hookStats().toStruct());
         }
         if (op == "pump") {
             if (args.length() > 1) VOR2::script::runHostLoopFor(args(1).double_value());
