@@ -11,7 +11,9 @@
 #include <fstream>
 #include <iostream>
 #include <sstream>
+#include <dirent.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 using namespace VOR2::script;
 
@@ -278,6 +280,15 @@ int main(int argc, char **argv)
     }
     std::string dir = argv[1];
     ::mkdir(dir.c_str(), 0755);
+    // The folder is the generator's own: class files of classes that are no
+    // longer published (another branch's, a renamed one) must not linger.
+    if (DIR *d = ::opendir(dir.c_str())) {
+        while (dirent *e = ::readdir(d)) {
+            std::string name = e->d_name;
+            if (name.size() > 2 && name.compare(name.size() - 2, 2, ".m") == 0) ::unlink((dir + "/" + name).c_str());
+        }
+        ::closedir(d);
+    }
     bool ok = write(dir + "/HandleBase.m", HANDLE_BASE) && write(dir + "/ValueBase.m", VALUE_BASE) &&
               write(dir + "/pump.m", PUMP);
     for (std::string const &name : packageClassNames()) {
