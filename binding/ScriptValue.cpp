@@ -51,6 +51,17 @@ Value Value::string(std::string s)
     return v;
 }
 
+Value Value::bytes(std::size_t rows, std::size_t cols, std::size_t pages, std::vector<std::uint8_t> bytes)
+{
+    Value v;
+    v.m_type = Type::UInt8;
+    v.m_rows = rows;
+    v.m_cols = cols;
+    v.m_pages = pages;
+    v.m_bytes = std::move(bytes);
+    return v;
+}
+
 Value Value::handle(std::string className, std::uint64_t id)
 {
     Value v;
@@ -58,6 +69,13 @@ Value Value::handle(std::string className, std::uint64_t id)
     v.m_rows = v.m_cols = id ? 1 : 0;
     v.m_text = std::move(className);
     v.m_id = id;
+    return v;
+}
+
+Value Value::nullObject(std::string className)
+{
+    Value v = handle(std::move(className), 0);
+    v.m_rows = v.m_cols = 1;
     return v;
 }
 
@@ -115,6 +133,7 @@ std::string Value::describe() const
     case Type::Logical: return size + "logical";
     case Type::Int32: return size + "int32";
     case Type::UInt32: return size + "uint32";
+    case Type::UInt8: return size.substr(0, size.size() - 1) + "x" + std::to_string(m_pages) + " uint8";
     case Type::Char: return size + "char";
     case Type::Handle:
     case Type::ValueObject: return m_text;

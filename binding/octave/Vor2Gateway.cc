@@ -53,7 +53,7 @@ Value numeric(octave_value const &ov, Value::Type type)
     std::vector<double> n(a.data(), a.data() + a.numel());
     Value v = Value::matrix(a.rows(), a.columns(), std::move(n));
     if (type == Value::Type::Double || a.numel() != 1) return v;
-    if (type == Value::Type::Logical) return Value::logical(n.empty() ? false : a(0) != 0);
+    if (type == Value::Type::Logical) return Value::logical(a(0) != 0);
     if (type == Value::Type::Int32) return Value::int32(std::int32_t(a(0)));
     return Value::uint32(std::uint32_t(a(0)));
 }
@@ -95,6 +95,11 @@ octave_value fromValue(Value const &v)
     case Value::Type::Logical: return octave_value(v.numbers().empty() ? false : v.numbers()[0] != 0);
     case Value::Type::Int32: return octave_value(octave_int32(v.numbers()[0]));
     case Value::Type::UInt32: return octave_value(octave_uint32(v.numbers()[0]));
+    case Value::Type::UInt8: {
+        uint8NDArray a(dim_vector(octave_idx_type(v.rows()), octave_idx_type(v.cols()), octave_idx_type(v.pages())));
+        std::copy(v.bytes().begin(), v.bytes().end(), a.fortran_vec());
+        return a;
+    }
     case Value::Type::Char: return octave_value(v.text());
     case Value::Type::Cell: {
         Cell c(1, v.items().size());
@@ -107,7 +112,7 @@ octave_value fromValue(Value const &v)
         return m;
     }
     case Value::Type::Handle: {
-        if (v.id() == 0) return Matrix();
+        if (v.id() == 0 && v.numel() == 0) return Matrix();
         octave_scalar_map token;
         token.assign("vor2_id__", double(v.id()));
         return octave::feval(v.className(), octave_value_list(octave_value(token)), 1)(0);
