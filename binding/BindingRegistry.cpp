@@ -6,8 +6,11 @@ namespace VOR2::script {
 
 BindingRegistry &BindingRegistry::instance()
 {
-    static BindingRegistry registry;
-    return registry;
+    // Never destroyed: entries still alive when the process exits (a script
+    // error left them unwrapped, or the host exits without clearing its
+    // variables) would drop nodes after the library's own tables are gone.
+    static BindingRegistry *const registry = new BindingRegistry;
+    return *registry;
 }
 
 Binding *BindingRegistry::findByAddress(void const *address)
