@@ -22,4 +22,24 @@ std::vector<std::pair<StrokeJoinStyle, char const *>> EnumNames<StrokeJoinStyle>
     return {{MiterJoin, "MiterJoin"}, {BevelJoin, "BevelJoin"}, {RoundJoin, "RoundJoin"}, {SvgMiterJoin, "SvgMiterJoin"}};
 }
 
+template <>
+std::vector<std::pair<StrokeInsetType, char const *>> EnumNames<StrokeInsetType>::entries()
+{
+    return {{Inner, "Inner"}, {Center, "Center"}, {Outer, "Outer"}};
+}
+
+template <>
+std::vector<std::pair<HorizontalAlignment, char const *>> EnumNames<HorizontalAlignment>::entries()
+{
+    return {{HorizontalAlignment::Left, "Left"}, {HorizontalAlignment::Center, "Center"},
+            {HorizontalAlignment::Right, "Right"}};
+}
+
+template <>
+std::vector<std::pair<VerticalAlignment, char const *>> EnumNames<VerticalAlignment>::entries()
+{
+    return {{VerticalAlignment::Top, "Top"}, {VerticalAlignment::Center, "Center"},
+            {VerticalAlignment::Bottom, "Bottom"}};
+}
+
 } // namespace VOR2::script

@@ -3,6 +3,8 @@
 // specialisation each, declared here and listed in EnumTables.cpp, so that
 // every class that converts one sees the same table.
 
+#include "Alignment"
+#include "EffectStroke"
 #include "Stroke"
 #include "binding/EnumNames.h"
 
@@ -14,5 +16,11 @@ template <>
 std::vector<std::pair<StrokeCapStyle, char const *>> EnumNames<StrokeCapStyle>::entries();
 template <>
 std::vector<std::pair<StrokeJoinStyle, char const *>> EnumNames<StrokeJoinStyle>::entries();
+template <>
+std::vector<std::pair<StrokeInsetType, char const *>> EnumNames<StrokeInsetType>::entries();
+template <>
+std::vector<std::pair<HorizontalAlignment, char const *>> EnumNames<HorizontalAlignment>::entries();
+template <>
+std::vector<std::pair<VerticalAlignment, char const *>> EnumNames<VerticalAlignment>::entries();
 
 } // namespace VOR2::script

@@ -1,0 +1,34 @@
+// VOR2.Effect: the counted root of the effect family.
+#include "Effect"
+#include "binding/ClassBuilder.h"
+#include "binding/Convert.h"
+#include "binding/EffectConvert.h"
+#include "binding/Package.h"
+
+namespace VOR2::script {
+
+namespace {
+
+ClassInfo cosEffect()
+{
+    ClassBuilder c("VOR2.Effect", ClassKind::ReferencedHandle, "",
+                   "Something a node paints on top of itself (a glow, a shadow, an outline). Bind one to a node "
+                   "with node.Effects.add(effect); the node keeps it, so it paints on after the variable is "
+                   "cleared. One effect may be bound to many nodes; a change to it repaints them all.");
+    c.staticMethod("getDefaultObject", "A new plain effect, which paints nothing: the filler of effect arrays.")
+        .overload("", 0, [](Self &, Args const &) {
+            GLOX::Holder<Effect> effect(new Effect);
+            return fromEffect(effect.get());
+        });
+    c.method("getEffectType",
+             "The id the effect is bound under by default, a char row: 'Glow', 'InnerGlow', 'Shadow', "
+             "'InnerShadow', 'ColorOverlay', 'Stroke', or '' for a plain effect.")
+        .overload("", 0, [](Self &s, Args const &) { return Value::string(s.object<Effect>()->getEffectID().str()); });
+    return c.build();
+}
+
+ClassRegistration registration("VOR2.Effect", &cosEffect);
+
+} // namespace
+
+} // namespace VOR2::script
