@@ -1,6 +1,7 @@
 // VOR2.Node: the copied handle at the root of the node family.
 #include "Scene"
 #include "binding/ClassBuilder.h"
+#include "binding/EffectConvert.h"
 #include "binding/ObjectConvert.h"
 #include "binding/Package.h"
 
@@ -33,6 +34,9 @@ ClassInfo cosNode()
         });
     c.property("Children", "VOR2.Node vector", "The node's children, a cell of nodes.",
                [](Self &s) { return fromNodes(s.node().getChildren()); });
+    c.property("Effects", "VOR2.NodeEffects",
+               "The effects the node paints on top of itself; the same object however often it is fetched.",
+               [](Self &s) { return fromNodeEffects(s.node()); });
     c.property(
         "Parent", "VOR2.Node", "The parent node, or empty.", [](Self &s) { return fromNode(s.node().getParent()); },
         [](Self &s, Value const &v) {
@@ -45,6 +49,13 @@ ClassInfo cosNode()
         [](Self &s, Value const &v) {
             auto p = toPoint(v);
             s.node().setPosition(p);
+        });
+    c.property(
+        "Selectable", "logical scalar", "Whether the node can be selected; false at first.",
+        [](Self &s) { return Value::logical(s.node().isSelectable()); },
+        [](Self &s, Value const &v) {
+            bool b = toBool(v);
+            s.node().setSelectable(b);
         });
     c.property(
         "Selected", "logical scalar", "Whether the node is selected.",
