@@ -79,10 +79,11 @@ st2 = VOR2.EffectStroke(k, 'Inner');
 assert(st2.Inset, 'Inner');
 assert(st2.Stroke.Width, 7);
 
-% A default effect paints nothing and has no type.
+% The default effect is an object on no effect; the plain class is not made
+% from a script.
 d = VOR2.Effect.getDefaultObject();
 assert(class(d), 'VOR2.Effect');
-assert(d.getEffectType(), '');
+expect_error(@() d.getEffectType(), 'TARVO:tcos_factory:null_self', 'Attempt to call a method on an empty value');
 expect_error(@() VOR2.Effect(), 'VOR2:NotConstructible');
 
 % Once the node is gone its list fails with the library's error.
