@@ -9,13 +9,17 @@ namespace VOR2::script {
 
 BindingRegistry &BindingRegistry::instance()
 {
-    static BindingRegistry registry;
+    // Never destroyed: entries still alive when the process exits (a script
+    // error left them unwrapped, or the host exits without clearing its
+    // variables) would drop nodes after the library's own tables are gone.
+    // So the retract hook, once installed, stays valid to the end too.
+    static BindingRegistry *const registry = new BindingRegistry;
     static bool const hooked = [] {
         GLOX::Wrappable::setRetractHook([](GLOX::Wrappable const *w) { instance().retract(w); });
         return true;
     }();
     (void)hooked;
-    return registry;
+    return *registry;
 }
 
 BindingRegistry::~BindingRegistry() { GLOX::Wrappable::setRetractHook(nullptr); }

@@ -118,4 +118,24 @@ std::vector<std::pair<FontStyle, char const *>> EnumNames<FontStyle>::entries()
     return {{FontStyle::Normal, "Normal"}, {FontStyle::Italic, "Italic"}};
 }
 
+template <>
+std::vector<std::pair<StrokeInsetType, char const *>> EnumNames<StrokeInsetType>::entries()
+{
+    return {{Inner, "Inner"}, {Center, "Center"}, {Outer, "Outer"}};
+}
+
+template <>
+std::vector<std::pair<HorizontalAlignment, char const *>> EnumNames<HorizontalAlignment>::entries()
+{
+    return {{HorizontalAlignment::Left, "Left"}, {HorizontalAlignment::Center, "Center"},
+            {HorizontalAlignment::Right, "Right"}};
+}
+
+template <>
+std::vector<std::pair<VerticalAlignment, char const *>> EnumNames<VerticalAlignment>::entries()
+{
+    return {{VerticalAlignment::Top, "Top"}, {VerticalAlignment::Center, "Center"},
+            {VerticalAlignment::Bottom, "Bottom"}};
+}
+
 } // namespace VOR2::script

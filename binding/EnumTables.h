@@ -3,8 +3,10 @@
 // specialisation each, declared here and listed in EnumTables.cpp, so that
 // every class that converts one sees the same table.
 
+#include "Alignment"
 #include "AutoSizeMode"
 #include "CacheType"
+#include "EffectStroke"
 #include "Fill"
 #include "LayoutConstraints"
 #include "Stroke"
@@ -55,5 +57,11 @@ std::vector<std::pair<GLOX::TextVAlign::Value, char const *>> EnumNames<GLOX::Te
 // "PointingHand", ...).
 template <>
 std::vector<std::pair<Qt::CursorShape, char const *>> EnumNames<Qt::CursorShape>::entries();
+template <>
+std::vector<std::pair<StrokeInsetType, char const *>> EnumNames<StrokeInsetType>::entries();
+template <>
+std::vector<std::pair<HorizontalAlignment, char const *>> EnumNames<HorizontalAlignment>::entries();
+template <>
+std::vector<std::pair<VerticalAlignment, char const *>> EnumNames<VerticalAlignment>::entries();
 
 } // namespace VOR2::script

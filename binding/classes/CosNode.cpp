@@ -4,6 +4,7 @@
 #include "Scene"
 #include "binding/ClassBuilder.h"
 #include "binding/CursorConvert.h"
+#include "binding/EffectConvert.h"
 #include "binding/EnumTables.h"
 #include "binding/ImageConvert.h"
 #include "binding/ObjectConvert.h"
@@ -133,6 +134,9 @@ void addProperties(ClassBuilder &c)
     });
     c.property("Children", "VOR2.Node vector", "The node's children, a cell of nodes, bottom first.",
                [](Self &s) { return fromNodes(s.node().getChildren()); });
+    c.property("Effects", "VOR2.NodeEffects",
+               "The effects the node paints on top of itself; the same object however often it is fetched.",
+               [](Self &s) { return fromNodeEffects(s.node()); });
     c.property(
         "Behavior", "VOR2.Behavior", "The node's behaviour (such as a VOR2.ResizeBehavior), or empty.",
         [](Self &s) { return fromBehavior(s.node().getBehavior()); },
