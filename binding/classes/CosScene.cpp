@@ -4,6 +4,7 @@
 #include "DrawStyle"
 #include "Scene"
 #include "binding/ClassBuilder.h"
+#include "binding/CursorConvert.h"
 #include "binding/ImageConvert.h"
 #include "binding/ObjectConvert.h"
 #include "binding/Package.h"
@@ -54,6 +55,9 @@ ClassInfo cosScene()
     c.property("CreationDrawStyle", "VOR2.DrawStyle",
                "The draw style that nodes take when first added: the top of the creation style stack.",
                [](Self &s) { return fromValueOf(s.object<Scene>()->getCreationDrawStyle(), "VOR2.DrawStyle"); });
+    c.property("ToolOverrideCursor", "VOR2.Cursor",
+               "The cursor the tools asked for in the last event; see hasToolOverrideCursor.",
+               [](Self &s) { return fromCursor(s.object<Scene>()->getToolOverrideCursor()); });
     c.property(
         "UseNodeSelection", "logical scalar", "Whether a selected node shows the scene's selection outline.",
         [](Self &s) { return Value::logical(s.object<Scene>()->usesNodeSelection()); },

@@ -90,3 +90,7 @@ assert(squeeze(img(2, 2, :))', uint8([255 255 255 255]));
 % The whole scene: its bounds with the margin on every side.
 assert(t.Bounds, [0 0 30 20]);
 assert(size(t.render(3)), [26 36 4]);
+
+% No tool has asked for a cursor: the tools' cursor is absent.
+assert(~s.hasToolOverrideCursor());
+assert(isempty(s.ToolOverrideCursor));
