@@ -8,24 +8,14 @@
 #include "binding/classes/WeakRefKeys.h"
 #include "tests/binding/BorderError.h"
 
+#include "binding/GatewayCalls.h"
+
 #include <gtest/gtest.h>
 
 using namespace VOR2::script;
+using namespace gatewaycalls;
 
 namespace {
-
-Value str(char const *s) { return Value::string(s); }
-
-Value make(char const *cls, std::vector<Value> args = {})
-{
-    args.insert(args.begin(), str(cls));
-    return gateway("new", args);
-}
-
-Value get(Value const &target, char const *property)
-{
-    return gateway("get", {str(target.className().c_str()), target, str(property)});
-}
 
 // The value with `property` set to v: the state the gateway gives back, in
 // a new value object.
@@ -33,13 +23,6 @@ Value set(Value const &target, char const *property, Value const &v)
 {
     return Value::valueObject(target.className(),
                               gateway("set", {str(target.className().c_str()), target, str(property), v}));
-}
-
-// The cell a call answers: {result} or, for a method that changes the value, {[], newState}.
-Value call(Value const &target, char const *method, std::vector<Value> args = {})
-{
-    args.insert(args.begin(), {str(target.className().c_str()), target, str(method)});
-    return gateway("call", args);
 }
 
 class GatewayValues : public ::testing::Test {
@@ -58,17 +41,17 @@ TEST_F(GatewayValues, SetAndChangingCallsGiveANewStateAndLeaveTheOldOne)
     EXPECT_EQ(get(wider, "Color").numbers(), (std::vector<double>{0, 1, 0, 1}));
 
     Value gradient = make("VOR2.Gradient", {str("Linear"), Value::row({0, 0}), Value::row({10, 0})});
-    Value changed = call(gradient, "addStop", {Value::scalar(0.5), Value::row({1, 0, 0})});
+    Value changed = callCell(gradient, "addStop", {Value::scalar(0.5), Value::row({1, 0, 0})});
     ASSERT_EQ(changed.items().size(), 2u);
     EXPECT_EQ(changed.items()[0].type(), Value::Type::Empty);
     Value withStop = Value::valueObject("VOR2.Gradient", changed.items()[1]);
-    EXPECT_EQ(call(withStop, "getStopCount").items()[0].numbers()[0], 1);
-    EXPECT_EQ(call(gradient, "getStopCount").items()[0].numbers()[0], 0);
+    EXPECT_EQ(callCell(withStop, "getStopCount").items()[0].numbers()[0], 1);
+    EXPECT_EQ(callCell(gradient, "getStopCount").items()[0].numbers()[0], 0);
     // A method with a result gives only the result.
-    Value colour = call(withStop, "getStopColor", {Value::scalar(0)});
+    Value colour = callCell(withStop, "getStopColor", {Value::scalar(0)});
     ASSERT_EQ(colour.items().size(), 1u);
     EXPECT_EQ(colour.items()[0].numbers(), (std::vector<double>{1, 0, 0, 1}));
-    EXPECT_EQ(errorOf([&] { call(withStop, "getStopColor", {Value::scalar(1)}); }).first, "VOR2:InvalidIndex");
+    EXPECT_EQ(errorOf([&] { callCell(withStop, "getStopColor", {Value::scalar(1)}); }).first, "VOR2:InvalidIndex");
 }
 
 TEST_F(GatewayValues, NestedValuesCrossAsTheirOwnClass)
@@ -86,7 +69,7 @@ TEST_F(GatewayValues, NestedValuesCrossAsTheirOwnClass)
     EXPECT_EQ(wrong, std::make_pair(std::string("VOR2:WrongType"), std::string("Expected VOR2.Stroke, got VOR2.Fill")));
     // The fill's gradient and its stops survive the trip.
     Value gradient = Value::valueObject(
-        "VOR2.Gradient", call(make("VOR2.Gradient", {str("Radial"), Value::row({1, 2}), Value::scalar(4)}), "addStop",
+        "VOR2.Gradient", callCell(make("VOR2.Gradient", {str("Radial"), Value::row({1, 2}), Value::scalar(4)}), "addStop",
                               {Value::scalar(0.25), Value::row({0, 0, 1, 0.5})})
                              .items()[1]);
     Value fill = make("VOR2.Fill", {gradient});
@@ -94,7 +77,7 @@ TEST_F(GatewayValues, NestedValuesCrossAsTheirOwnClass)
     Value back = get(set(style, "Fill", fill), "Fill");
     Value g = get(back, "Gradient");
     EXPECT_EQ(get(g, "Radius").numbers()[0], 4);
-    EXPECT_EQ(call(g, "getStopPercent", {Value::scalar(0)}).items()[0].numbers()[0], 0.25);
+    EXPECT_EQ(callCell(g, "getStopPercent", {Value::scalar(0)}).items()[0].numbers()[0], 0.25);
 }
 
 TEST_F(GatewayValues, TheScaleFunctionIsToldByNameAndAnUnknownOneIsTheCatalogueError)
@@ -141,7 +124,7 @@ TEST_F(GatewayValues, ReadingADecorationDoesNotAnnounceItsNode)
     int objects = entry.scriptObjects;
     // Only a state handed back to the script carries a new script object of the node.
     get(decoration, "LineBackoff");
-    call(decoration, "getBackoffVector");
+    callCell(decoration, "getBackoffVector");
     EXPECT_EQ(entry.scriptObjects, objects);
     Value backedOff = set(decoration, "LineBackoff", Value::scalar(3));
     EXPECT_EQ(entry.scriptObjects, objects + 1);
@@ -149,8 +132,8 @@ TEST_F(GatewayValues, ReadingADecorationDoesNotAnnounceItsNode)
 
     // Turning it turns the shared node, and the backoff follows the turn.
     Value turned = Value::valueObject("VOR2.LineEndDecoration",
-                                      call(backedOff, "desiredDirection", {Value::row({0, 1})}).items()[1]);
-    std::vector<double> backoff = call(turned, "getBackoffVector").items()[0].numbers();
+                                      callCell(backedOff, "desiredDirection", {Value::row({0, 1})}).items()[1]);
+    std::vector<double> backoff = callCell(turned, "getBackoffVector").items()[0].numbers();
     EXPECT_NEAR(backoff[0], 0, 1e-12);
     EXPECT_NEAR(backoff[1], 3, 1e-12);
     EXPECT_NEAR(head.getTransform().toQTransform().map(QPointF(1, 0)).y(), 1, 1e-12);
@@ -166,7 +149,7 @@ TEST_F(GatewayValues, AWeakReferenceDoesNotKeepItsNode)
         Value handle = BindingRegistry::instance().announceNode(node);
         weak = make("VOR2.WeakRef", {handle});
         EXPECT_TRUE(get(weak, "isValid").numbers()[0]);
-        Value promoted = call(weak, "promote").items()[0];
+        Value promoted = callCell(weak, "promote").items()[0];
         EXPECT_EQ(promoted.id(), handle.id());
         EXPECT_EQ(promoted.className(), "VOR2.RectNode");
         // The registry's reference goes with the script's last object.
@@ -175,7 +158,7 @@ TEST_F(GatewayValues, AWeakReferenceDoesNotKeepItsNode)
         EXPECT_TRUE(get(weak, "isValid").numbers()[0]);
     }
     EXPECT_FALSE(get(weak, "isValid").numbers()[0]);
-    Value promoted = call(weak, "promote");
+    Value promoted = callCell(weak, "promote");
     ASSERT_EQ(promoted.items().size(), 1u);
     EXPECT_EQ(promoted.items()[0].id(), 0u);
     // Two references to one node carry one key; a new node never takes a

@@ -12,31 +12,14 @@
 #include "binding/ScriptError.h"
 
 #include <QImage>
+#include "binding/GatewayCalls.h"
+
 #include <gtest/gtest.h>
 
 using namespace VOR2::script;
+using namespace gatewaycalls;
 
 namespace {
-
-Value str(char const *s) { return Value::string(s); }
-
-Value make(char const *cls, std::vector<Value> args = {})
-{
-    args.insert(args.begin(), str(cls));
-    return gateway("new", args);
-}
-
-Value get(Value const &target, char const *property)
-{
-    return gateway("get", {str(target.className().c_str()), target, str(property)});
-}
-
-Value call(Value const &target, char const *method, std::vector<Value> args = {})
-{
-    args.insert(args.begin(), {str(target.className().c_str()), target, str(method)});
-    Value out = gateway("call", args);
-    return out.items().empty() ? Value() : out.items().front();
-}
 
 class NodeClasses : public ::testing::Test {
 protected:
@@ -60,23 +43,23 @@ TEST_F(NodeClasses, AFetchedNodeCarriesTheScriptClassOfItsKind)
     EXPECT_EQ(children.items()[0].id(), polygon.id());
     EXPECT_EQ(children.items()[1].className(), "VOR2.TextNode");
     // The polygon is still a linear path to the library and to isOfType.
-    EXPECT_EQ(call(polygon, "isOfType", {str("VOR2.LinearPathNode")}).numbers(), std::vector<double>{1});
-    EXPECT_EQ(call(polygon, "isOfType", {str("ClosedLinearPathNodes")}).numbers(), std::vector<double>{1});
-    EXPECT_EQ(call(polygon, "isOfType", {str("TextNode")}).numbers(), std::vector<double>{0});
+    EXPECT_EQ(callResult(polygon, "isOfType", {str("VOR2.LinearPathNode")}).numbers(), std::vector<double>{1});
+    EXPECT_EQ(callResult(polygon, "isOfType", {str("ClosedLinearPathNodes")}).numbers(), std::vector<double>{1});
+    EXPECT_EQ(callResult(polygon, "isOfType", {str("TextNode")}).numbers(), std::vector<double>{0});
 }
 
 TEST_F(NodeClasses, AShapeIsOneObjectForItsVariablesAndACopyWhenReadFromANode)
 {
     BindingRegistry &registry = BindingRegistry::instance();
     Value shape = make("VOR2.Shape");
-    call(shape, "addRect", {Value::row({0, 0, 10, 10})});
+    callResult(shape, "addRect", {Value::row({0, 0, 10, 10})});
     Value node = make("VOR2.ShapeNode", {shape});
 
     Value first = get(node, "Shape");
     Value second = get(node, "Shape");
     EXPECT_NE(first.id(), second.id());
     EXPECT_NE(first.id(), shape.id());
-    call(first, "addRect", {Value::row({20, 20, 5, 5})});
+    callResult(first, "addRect", {Value::row({20, 20, 5, 5})});
     EXPECT_EQ(get(first, "BoundingRect").numbers(), (std::vector<double>{0, 0, 25, 25}));
     EXPECT_EQ(get(second, "BoundingRect").numbers(), (std::vector<double>{0, 0, 10, 10}));
     EXPECT_EQ(get(node, "BoundingRect").numbers(), (std::vector<double>{0, 0, 10, 10}));
@@ -128,7 +111,7 @@ TEST_F(NodeClasses, AnEditOfAnOpenCurveFromTheScriptPlacesItsDecorations)
         return std::vector<double>{t[6], t[7]};
     };
     EXPECT_EQ(placedAt(), (std::vector<double>{10, 0}));
-    call(curve, "append", {Value::row({30, 5})});
+    callResult(curve, "append", {Value::row({30, 5})});
     EXPECT_EQ(placedAt(), (std::vector<double>{30, 5}));
 }
 

@@ -8,13 +8,14 @@
 #include "binding/Gateway.h"
 #include "tests/binding/BorderError.h"
 
+#include "binding/GatewayCalls.h"
+
 #include <gtest/gtest.h>
 
 using namespace VOR2::script;
+using namespace gatewaycalls;
 
 namespace {
-
-Value str(char const *s) { return Value::string(s); }
 
 std::size_t entries() { return std::size_t(gateway("count", {}).numbers()[0]); }
 

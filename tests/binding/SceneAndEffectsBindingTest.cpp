@@ -13,14 +13,15 @@
 
 #include <QImage>
 
+#include "binding/GatewayCalls.h"
+
 #include <gtest/gtest.h>
 
 using namespace VOR2;
 using namespace VOR2::script;
+using namespace gatewaycalls;
 
 namespace {
-
-Value str(char const *s) { return Value::string(s); }
 
 class SceneAndEffectsBinding : public ::testing::Test {
 protected:
