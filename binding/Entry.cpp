@@ -100,8 +100,15 @@ void startHostLoop()
 void runHostLoopFor(double seconds)
 {
     if (!HostRuntime::isRunning()) return;
-    auto ms = std::chrono::milliseconds(seconds > 0 ? static_cast<long long>(seconds * 1000.0) : 0);
-    HostRuntime::loop().runFor(ms);
+    // In steps, so that a host thread with a Qt dispatcher of its own gets
+    // its Qt events between them.
+    auto const end = std::chrono::steady_clock::now() +
+                     std::chrono::milliseconds(seconds > 0 ? static_cast<long long>(seconds * 1000.0) : 0);
+    do {
+        HostRuntime::processHostQtEvents();
+        HostRuntime::loop().runFor(std::chrono::milliseconds(10));
+    } while (std::chrono::steady_clock::now() < end);
+    HostRuntime::processHostQtEvents();
 }
 
 void runHostLoopWhileNoInput(int inputFd, double maxSeconds)
@@ -114,13 +121,17 @@ void runHostLoopWhileNoInput(int inputFd, double maxSeconds)
     auto const end = std::chrono::steady_clock::now() +
                      std::chrono::milliseconds(maxSeconds > 0 ? static_cast<long long>(maxSeconds * 1000.0) : 0);
     do {
+        HostRuntime::processHostQtEvents();
         HostRuntime::loop().runUntil(hasInput, std::chrono::milliseconds(10));
     } while (!hasInput() && std::chrono::steady_clock::now() < end);
 }
 
 void runHostLoopUntilIdle()
 {
-    if (HostRuntime::isRunning()) HostRuntime::loop().runUntilIdle();
+    if (!HostRuntime::isRunning()) return;
+    HostRuntime::processHostQtEvents();
+    HostRuntime::loop().runUntilIdle();
+    HostRuntime::processHostQtEvents();
 }
 
 } // namespace VOR2::script

@@ -7,6 +7,8 @@
 #include "widget/QtWidgetFactory.h"
 #include "widget/VOREventDispatcher.h"
 
+#include <QAbstractEventDispatcher>
+#include <QCoreApplication>
 #include <QThread>
 #include <atomic>
 #include <stdexcept>
@@ -15,6 +17,8 @@ namespace VOR2 {
 
 namespace {
 std::atomic<GLServices::HostRunLoop *> s_loop{nullptr};
+// The host thread kept a Qt dispatcher of its own (see VOREventDispatcher).
+bool s_foreignDispatcher = false;
 }
 
 void HostRuntime::start()
@@ -29,7 +33,7 @@ void HostRuntime::start()
             throw std::logic_error("HostRuntime::start: the host thread cannot change once the runtime has run");
     bridge().start(); // may refuse, with nothing changed
     s_loop = new GLServices::HostRunLoop;
-    VOREventDispatcher::install();
+    s_foreignDispatcher = VOREventDispatcher::install() == nullptr;
     // Canvases made from now on get their widgets on the GUI thread.
     bridge().runOnGui([] { QtWidgetFactory::install(); }, true);
 }
@@ -42,6 +46,14 @@ void HostRuntime::stop()
     bridge().stop();
     s_loop = nullptr;
     delete loop;
+}
+
+void HostRuntime::processHostQtEvents()
+{
+    if (!s_foreignDispatcher) return;
+    QCoreApplication::sendPostedEvents();
+    if (QAbstractEventDispatcher *d = QThread::currentThread()->eventDispatcher())
+        d->processEvents(QEventLoop::AllEvents);
 }
 
 bool HostRuntime::isRunning()

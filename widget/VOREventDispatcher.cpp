@@ -49,6 +49,10 @@ void deliverPostedEvents()
 
 VOREventDispatcher *VOREventDispatcher::install()
 {
+    if (!s_instance) {
+        QAbstractEventDispatcher *existing = QThread::currentThread()->eventDispatcher();
+        if (existing) return nullptr;
+    }
     static std::once_flag once;
     std::call_once(once, [] {
         auto *dispatcher = new VOREventDispatcher;

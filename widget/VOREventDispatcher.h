@@ -30,10 +30,13 @@ class VOREventDispatcher : public QAbstractEventDispatcher {
 
 public:
     // Host thread, after the QApplication exists: creates the dispatcher on
-    // the first call and installs it for the calling thread, which must have
-    // no event dispatcher yet; later calls, from the same thread, return the
-    // same one. Events posted to the thread before it was installed are
-    // delivered at the host loop's next run.
+    // the first call and installs it for the calling thread; later calls,
+    // from the same thread, return the same one. Events posted to the thread
+    // before it was installed are delivered at the host loop's next run.
+    // A thread that has a Qt dispatcher of its own already (the interpreter
+    // thread of a host with a Qt GUI, a QThread) keeps it, since Qt cannot
+    // replace it: install() then returns null, and whoever runs the host loop
+    // there also runs that dispatcher (HostRuntime::processHostQtEvents).
     static VOREventDispatcher *install();
     // Any thread: the installed dispatcher, or null.
     static VOREventDispatcher *instance();
