@@ -2,6 +2,7 @@
 #include "Behavior"
 #include "ClosedLinearPathNode"
 #include "Scene"
+#include "binding/BehaviorConvert.h"
 #include "binding/ClassBuilder.h"
 #include "binding/CursorConvert.h"
 #include "binding/EffectConvert.h"
@@ -33,12 +34,6 @@ std::string libraryTypeName(std::string name)
     if (name.rfind("VOR2.", 0) != 0) name = "VOR2." + name;
     if (name == "VOR2.ClosedLinearPathNodes") return ClosedLinearPathNode::staticGetFullyQualifiedTcosTypeName();
     return name;
-}
-
-Value fromBehavior(Behavior *behavior)
-{
-    char const *cls = behavior ? behavior->getFullyQualifiedTcosTypeName() : "VOR2.Behavior";
-    return BindingRegistry::instance().announceReferenced(behavior, cls);
 }
 
 using BoolGetter = bool (Node::*)() const;

@@ -48,11 +48,10 @@ std::string methodHelp(MethodInfo const &m)
     return text;
 }
 
-void writeHandleClass(std::ostream &out, ClassInfo const &c)
+// The property blocks: the writable ones, then the read-only ones, each
+// with its type word and help.
+void writePropertyDeclarations(std::ostream &out, ClassInfo const &c)
 {
-    std::string super = c.superclass.empty() ? "VOR2.HandleBase" : c.superclass;
-    out << "classdef " << shortName(c.name) << " < " << super << "\n";
-    out << comment("  ", c.name + " (" + kindName(c.kind) + "). " + c.help);
     for (bool readOnly : {false, true}) {
         bool any = false;
         for (PropertyInfo const &p : c.properties) {
@@ -63,6 +62,14 @@ void writeHandleClass(std::ostream &out, ClassInfo const &c)
         }
         if (any) out << "  end\n";
     }
+}
+
+void writeHandleClass(std::ostream &out, ClassInfo const &c)
+{
+    std::string super = c.superclass.empty() ? "VOR2.HandleBase" : c.superclass;
+    out << "classdef " << shortName(c.name) << " < " << super << "\n";
+    out << comment("  ", c.name + " (" + kindName(c.kind) + "). " + c.help);
+    writePropertyDeclarations(out, c);
     out << "  methods\n";
     out << "    function obj = " << shortName(c.name) << "(varargin)\n";
     out << "      obj@" << super << "(varargin{:});\n";
@@ -91,16 +98,7 @@ void writeValueClass(std::ostream &out, ClassInfo const &c)
     out << "classdef " << shortName(c.name) << " < VOR2.ValueBase\n";
     out << comment("  ", c.name + " (value). " + c.help +
                              " A copy is independent: change a value read from a property, then assign it back.");
-    for (bool readOnly : {false, true}) {
-        bool any = false;
-        for (PropertyInfo const &p : c.properties) {
-            if (p.readOnly() != readOnly) continue;
-            if (!any) out << (readOnly ? "  properties (Dependent, SetAccess = private)\n" : "  properties (Dependent)\n");
-            any = true;
-            out << "    " << p.name << " % \"" << p.typeWord << "\" " << p.help << "\n";
-        }
-        if (any) out << "  end\n";
-    }
+    writePropertyDeclarations(out, c);
     out << "  methods\n";
     out << "    function obj = " << shortName(c.name) << "(varargin)\n";
     out << "      obj@VOR2.ValueBase(varargin{:});\n";
